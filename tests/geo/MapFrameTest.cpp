@@ -1,0 +1,69 @@
+#include "geo/MapFrame.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace
+{
+TEST(MapFrame, HasAWholeNumberOfMetresAPixel)
+{
+    const MapFrame frame(900, 20000000, 10);
+    EXPECT_EQ(frame.metresPerPixel, 45454.0);
+    EXPECT_EQ(frame.half, 450);
+}
+
+TEST(MapFrame, LeavesADiscOfOnePixelWhenTheMarginTakesAll)
+{
+    EXPECT_EQ(MapFrame(100, 20000000, 50).metresPerPixel, 20000000.0);
+    EXPECT_EQ(MapFrame(100, 20000000, 500).metresPerPixel, 20000000.0);
+}
+
+TEST(MapFrame, PutsTheStationOfAnOddPictureInItsMiddle)
+{
+    const MapFrame frame(901, 20000000, 1);
+    EXPECT_EQ(frame.half, 450);
+    EXPECT_EQ(frame.MapToPixel(0.0, 0.0), (geo::Pixel{450, 450}));
+}
+
+TEST(MapFrame, TruncatesPixelsTowardZero)
+{
+    const MapFrame frame(900, 20000000, 10);
+    const double scale = frame.metresPerPixel;
+    EXPECT_EQ(frame.MapToPixel(-0.7 * scale, 0.0), (geo::Pixel{449, 450}));
+    EXPECT_EQ(frame.MapToPixel(0.7 * scale, -0.7 * scale), (geo::Pixel{450, 450}));
+    EXPECT_EQ(frame.MapToPixel(-450.7 * scale, 450.7 * scale), (geo::Pixel{0, 0}));
+    EXPECT_EQ(frame.MapToPixel(-451.2 * scale, 451.2 * scale), (geo::Pixel{-1, -1}));
+}
+
+TEST(MapFrame, GivesTheSmallestPixelForPointsThatDoNotFit)
+{
+    const MapFrame frame(900, 20000000, 10);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(frame.MapToPixel(nan, 1e300),
+              (geo::Pixel{std::numeric_limits<int>::min(), std::numeric_limits<int>::min()}));
+}
+
+TEST(MapFrame, TurnsPixelsIntoMetresEastAndNorth)
+{
+    const MapFrame frame(900, 20000000, 10);
+    const geo::MapPoint point = frame.PixelToMap(451, 452);
+    EXPECT_EQ(point.x, 45454.0);
+    EXPECT_EQ(point.y, -90908.0);
+}
+
+TEST(RangeAndBearing, AreZeroAtTheCentre)
+{
+    EXPECT_EQ(geo::RangeAndBearingOf({0.0, 0.0}).distanceKm, 0.0);
+    EXPECT_EQ(geo::RangeAndBearingOf({0.0, 0.0}).bearingDeg, 0.0);
+}
+
+TEST(RangeAndBearing, RunClockwiseFromNorth)
+{
+    EXPECT_EQ(geo::RangeAndBearingOf({0.0, 1000.0}).bearingDeg, 0.0);
+    EXPECT_NEAR(geo::RangeAndBearingOf({1000.0, 0.0}).bearingDeg, 90.0, 1e-8);
+    EXPECT_NEAR(geo::RangeAndBearingOf({0.0, -1000.0}).bearingDeg, 180.0, 1e-8);
+    EXPECT_NEAR(geo::RangeAndBearingOf({-1000.0, 0.0}).bearingDeg, 270.0, 1e-8);
+    EXPECT_EQ(geo::RangeAndBearingOf({-3000.0, 4000.0}).distanceKm, 5.0);
+}
+} // namespace
