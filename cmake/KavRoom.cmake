@@ -6,6 +6,7 @@ function(kav_room name)
   set(target kav_${name})
   add_library(${target} STATIC ${room_SOURCES})
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${room_HEADERS})
+  target_compile_features(${target} PUBLIC cxx_std_20)
   target_link_libraries(
     ${target}
     PUBLIC ${room_USES}

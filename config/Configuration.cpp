@@ -1,0 +1,107 @@
+#include "config/Configuration.h"
+
+#include "config/QuietToolkit.h"
+#include "geo/Locator.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+constexpr int kFiles = wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE;
+
+/// Texts come back as they were written: "$HOME" is not replaced while this lives.
+class VerbatimTexts
+{
+public:
+    explicit VerbatimTexts(wxConfigBase& file) : m_file(file), m_before(file.IsExpandingEnvVars())
+    {
+        m_file.SetExpandEnvVars(false);
+    }
+    ~VerbatimTexts() { m_file.SetExpandEnvVars(m_before); }
+    VerbatimTexts(const VerbatimTexts&) = delete;
+    VerbatimTexts& operator=(const VerbatimTexts&) = delete;
+
+private:
+    wxConfigBase& m_file;
+    bool m_before;
+};
+
+/// Reads one key; false when the member took the default. Numbers that are infinite or not numbers are unreadable.
+template <class Value>
+bool ReadSetting(wxConfigBase& file, const wxString& key, Value& member, const Value& fallback)
+{
+    bool good = file.Read(key, &member, fallback);
+    if constexpr (std::is_same_v<Value, double>)
+    {
+        good = good && std::isfinite(member);
+        member = good ? member : fallback;
+    }
+    return good;
+}
+} // namespace
+
+// The toolkit keeps quiet for as long as the base opens its files: damaged files are not reported.
+Configuration::Configuration(const wxString& appName) : wxFileConfig((QuietToolkit(), appName), "", "", "", kFiles)
+{
+    ReadAll();
+}
+
+Configuration::Configuration(const wxString& appName, wxConfigBase& source)
+    : wxFileConfig((QuietToolkit(), appName), "", "", "", kFiles)
+{
+    ReadAllFrom(source);
+}
+
+void Configuration::ReadAll()
+{
+    const QuietToolkit quiet;
+    const VerbatimTexts verbatim(*this);
+    ForEachSetting(
+        [this]<class Value>(const wxString& key, Value& member, const auto& fallback)
+        {
+            if (!ReadSetting(*this, key, member, Value(fallback)))
+                Write(key, member);
+        });
+}
+
+void Configuration::ReadAllFrom(wxConfigBase& source)
+{
+    const QuietToolkit quiet;
+    const VerbatimTexts verbatim(source);
+    ForEachSetting([&source]<class Value>(const wxString& key, Value& member, const auto& fallback)
+                   { ReadSetting(source, key, member, Value(fallback)); });
+}
+
+void Configuration::WriteAll()
+{
+    WriteAllTo(*this);
+}
+
+void Configuration::WriteAllTo(wxConfigBase& target)
+{
+    ForEachSetting([&target](const wxString& key, const auto& member, const auto&) { target.Write(key, member); });
+}
+
+void Configuration::LatLonToLocator(wxString& locator, double lat, double lon)
+{
+    const auto characters = geo::LocatorOf(lat, lon);
+    if (!characters)
+        return;
+    const std::size_t length = std::min(locator.length(), characters->size());
+    locator.replace(0, length, wxString::FromAscii(characters->data(), length));
+}
+
+int Configuration::LocatorToLatLon(double& lat, double& lon, wxString& locator)
+{
+    if (locator.length() == 4)
+        locator += "LL";
+    // Anything outside ASCII becomes a character that no locator holds.
+    const auto characters = locator.ToAscii('?');
+    const auto centre = geo::CentreOfLocator({characters.data(), characters.length()});
+    if (!centre)
+        return 0;
+    lat = centre->lat;
+    lon = centre->lon;
+    return 1;
+}

@@ -1,0 +1,215 @@
+#pragma once
+
+#include "config/UtcTime.h"
+
+#include <wx/fileconf.h>
+
+#include <array>
+
+/// How the lines of a layer are drawn.
+struct LineStyle
+{
+    bool show = false;
+    long colour = 0; ///< R + 256 G + 65536 B, as every colour here
+    long alpha = 0;  ///< opacity, 0 invisible .. 255 opaque
+    long lineWidth = 0;
+};
+
+/// How the texts of a layer are drawn.
+struct TextStyle
+{
+    bool show = false;
+    wxString font; ///< the toolkit's user-readable native font description
+    long colour = 0;
+    long alpha = 0;
+};
+
+/// A grid with names: its lines and its labels.
+struct LabelledLines : LineStyle
+{
+    TextStyle text;
+};
+
+struct CompassSettings : LabelledLines
+{
+    bool insideMap = false;
+};
+
+struct RadialsSettings : LineStyle
+{
+    int every = 0; ///< choice: 5, 10, 15, 30 or 45 degrees
+};
+
+struct RangeCirclesSettings : LineStyle
+{
+    long distanceKm = 0;
+    bool legendShow = false;
+    long legendBearingDeg = 0;
+};
+
+struct BorderSlot : LineStyle
+{
+    wxString file;
+};
+
+struct TextSlot : TextStyle
+{
+    wxString file;
+    int align = 0; ///< choice: five alignments, then the same five with a dot
+    bool avoidCollisions = false;
+};
+
+struct SourceBitmapSlot
+{
+    bool show = false;
+    wxString file;
+};
+
+struct PlotSquaresSlot
+{
+    bool show = false;
+    wxString file;
+    int stipple = 0; ///< choice: seven hatchings, 0 is solid
+    long borderColour = 0;
+    long fillColour = 0;
+    long alpha = 0;
+};
+
+/// The greyline, and the time that it shares with the propagation overlay.
+struct GreyzoneSettings
+{
+    bool show = false;
+    long widthDeg = 0;
+    bool gradient = false;
+    long darkeningGrey = 0;  ///< percent: 100 no darkening, 0 black
+    long darkeningNight = 0; ///< percent
+    int timeMode = 0;        ///< kRealTime, kOnce; any other value draws nothing
+    UtcTime once{};          ///< the time of kOnce, its seconds always 0
+};
+
+inline constexpr int kRealTime = 0;
+inline constexpr int kOnce = 1;
+
+/// Colours and thresholds of one propagation parameter; index 0 is the lowest step.
+struct ColourScale
+{
+    static constexpr std::size_t kSteps = 10;
+    std::array<long, kSteps> colours{};
+    std::array<wxString, kSteps> values; ///< numbers as the user typed them
+};
+
+struct AntennaSettings
+{
+    wxString gain; ///< dBi, or the design frequency in MHz for an antenna file
+    wxString directionDeg;
+    wxString file;
+};
+
+/// The propagation overlay. Numbers that are kept as text stay as the user typed them.
+struct PropagationSettings
+{
+    bool show = false;
+    int engine = 0;
+    long sunspotNumber = 0;
+    int grid = 0; ///< choice
+    wxString directory;
+    int frequency = 0; ///< choice
+    long alpha = 0;
+    long greyScale = 0;
+    int txPower = 0; ///< choice
+    AntennaSettings transmitter;
+    AntennaSettings receiver;
+    bool useExternalResult = false;
+    wxString externalResult;
+    wxString userFrequencyMHz;
+    wxString manMadeNoise;
+    wxString minTakeOffAngle;
+    wxString requiredReliability;
+    wxString requiredSnr;
+    wxString multipathPowerTolerance;
+    wxString maxMultipathDelay;
+    std::array<wxString, 4> layerMultipliers; ///< FoE, FoF1, FoF2, FoEs
+    long paramGrey = 0;                       ///< kept, not used
+    long autoLevel = 0;
+    long legend = 0;
+    long paramAlpha = 0;               ///< kept, not used
+    int parameter = 0;                 ///< 0 SDBW, 1 SNR, 2 MUF, 3 REL
+    std::array<ColourScale, 4> scales; ///< by parameter
+};
+
+/**
+ * All settings of the program, and the working settings file that keeps them between runs.
+ *
+ * One member for each key. Settings never fail: a key that is missing or unreadable takes its default, silently.
+ * Values are not range-checked here. Texts come back exactly as they were written.
+ */
+class Configuration : public wxFileConfig
+{
+public:
+    /// Opens the user's working file of that name and reads it with ReadAll().
+    explicit Configuration(const wxString& appName);
+
+    /// Takes the settings from another object. The working file is opened but neither read nor completed.
+    Configuration(const wxString& appName, wxConfigBase& source);
+
+    /// Reads every key from the working file. Keys that are missing or damaged are written back with their defaults.
+    void ReadAll();
+
+    /// Reads every key from another object, which is left as it is.
+    void ReadAllFrom(wxConfigBase& source);
+
+    /// Writes every key to the working file, which reaches the disk when this object is flushed or destroyed.
+    void WriteAll();
+
+    /// Writes every key to another object.
+    void WriteAllTo(wxConfigBase& target);
+
+    /**
+     * Calls visit(key, member, default) for every setting, in the order in which they stand in the file.
+     *
+     * The type of the member (double, long, int, bool, wxString) is the type of the key. The defaults of the "Once"
+     * time are the moment of the call.
+     */
+    template <class Visit>
+    void ForEachSetting(Visit visit);
+
+    /**
+     * Overwrites a locator in place with that of a position in degrees.
+     *
+     * A position outside -90..90 and -180..180 changes nothing. The length of the text never changes: only as many
+     * characters are written as it has.
+     */
+    static void LatLonToLocator(wxString& locator, double lat, double lon);
+
+    /**
+     * The centre of a locator's subsquare in degrees.
+     *
+     * @param[in,out] locator a text of four characters is completed with "LL".
+     * @return 1, or 0 for what is no upper-case locator: then lat and lon keep their values.
+     */
+    static int LocatorToLatLon(double& lat, double& lon, wxString& locator);
+
+    double centreLat = 0.0; ///< degrees, north positive
+    double centreLon = 0.0; ///< degrees, east positive
+    wxString centreLoc;
+    long zoom = 0; ///< radius of the map in kilometres
+    long size = 0; ///< side of the map in pixels
+    LineStyle meridians;
+    LabelledLines fields;
+    LabelledLines squares;
+    CompassSettings compass;
+    RadialsSettings radials;
+    std::array<BorderSlot, 6> borders;
+    std::array<TextSlot, 3> texts;
+    RangeCirclesSettings rangeCircles;
+    std::array<SourceBitmapSlot, 2> sourceBitmaps;
+    std::array<PlotSquaresSlot, 2> plotSquares;
+    GreyzoneSettings greyzone;
+    PropagationSettings propagation;
+    wxString lastIniDirectory;
+
+    /// Set by the options dialog when its OK changed anything: the overlays no longer fit. Not a key.
+    bool resetOverlays = false;
+};
+
+#include "config/ConfigurationKeys.h"

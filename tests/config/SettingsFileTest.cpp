@@ -1,0 +1,48 @@
+#include "config/SettingsFile.h"
+
+#include "config/Configuration.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+#include <wx/log.h>
+
+namespace
+{
+TEST(SettingsFile, IsLookedUpInTheWorkingDirectory)
+{
+    const TemporaryHome home;
+    home.Write("sub/mine.ini", "Size=321\n");
+    EXPECT_EQ(OpenSettingsFile("sub/mine.ini")->ReadLong("Size", 0), 321);
+}
+
+TEST(SettingsFile, KeepsEntriesThatTheProgramDoesNotKnow)
+{
+    const TemporaryHome home;
+    home.Write("mine.ini", "Size=321\n[Stranger]\nGuest=keep me\n");
+    Configuration settings("Kavdex");
+    settings.WriteAllTo(*OpenSettingsFile("mine.ini"));
+    const auto written = OpenSettingsFile("mine.ini");
+    EXPECT_EQ(written->Read("Stranger/Guest"), "keep me");
+    EXPECT_EQ(written->ReadLong("Size", 0), 900);
+    EXPECT_EQ(written->Read("Center pos/Loc"), "JO65HQ");
+}
+
+TEST(SettingsFile, ThatCannotBeReadGivesDefaultsSilently)
+{
+    const TemporaryHome home;
+    home.Write("noise.ini", std::string("\x00\xff\xfe[[[=\n]=\x80\x01\n[Size", 20));
+    home.Write("directory.ini/file", "");
+    wxLogBuffer log;
+    wxLog* before = wxLog::SetActiveTarget(&log);
+    Configuration settings("Kavdex");
+    for (const char* name : {"noise.ini", "directory.ini", "missing.ini"})
+    {
+        settings.size = 1;
+        settings.ReadAllFrom(*OpenSettingsFile(name));
+        EXPECT_EQ(settings.size, 900) << name;
+    }
+    wxLog::SetActiveTarget(before);
+    EXPECT_EQ(log.GetBuffer(), "");
+}
+} // namespace

@@ -1,0 +1,11 @@
+#include "tests/support/FailOnAssert.h"
+
+#include <wx/init.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    const wxInitializer toolkit;
+    FailOnAssert();
+    return RUN_ALL_TESTS();
+}
