@@ -1,0 +1,94 @@
+#include "render/BitmapPixels.h"
+
+#include <cairo.h>
+#include <wx/image.h>
+
+namespace render
+{
+namespace
+{
+unsigned Channel(Argb pixel, int shift)
+{
+    return (pixel >> shift) & 255;
+}
+
+unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
+{
+    return static_cast<unsigned char>(alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha);
+}
+} // namespace
+
+bool BitmapPixels::inPlace = true;
+
+BitmapPixels::BitmapPixels(wxBitmap& bitmap)
+    : m_bitmap(bitmap), m_width(bitmap.GetWidth()), m_height(bitmap.GetHeight())
+{
+    if (!OpenInPlace())
+        OpenImage();
+}
+
+BitmapPixels::~BitmapPixels()
+{
+    if (m_context)
+    {
+        cairo_surface_mark_dirty(cairo_get_target(m_context));
+        cairo_destroy(m_context);
+    }
+    else
+    {
+        WriteImageBack();
+    }
+}
+
+bool BitmapPixels::OpenInPlace()
+{
+    if (!inPlace)
+        return false;
+    cairo_t* const context = m_bitmap.CairoCreate();
+    cairo_surface_t* const surface = cairo_get_target(context);
+    const bool isImage = cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE;
+    const cairo_format_t format = isImage ? cairo_image_surface_get_format(surface) : CAIRO_FORMAT_INVALID;
+    if (format != CAIRO_FORMAT_RGB24 && format != CAIRO_FORMAT_ARGB32)
+    {
+        cairo_destroy(context);
+        return false;
+    }
+    cairo_surface_flush(surface);
+    m_context = context;
+    m_pixels = reinterpret_cast<Argb*>(cairo_image_surface_get_data(surface));
+    m_stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) / sizeof(Argb);
+    return true;
+}
+
+void BitmapPixels::OpenImage()
+{
+    const wxImage image = m_bitmap.ConvertToImage();
+    const std::size_t count = static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height);
+    const unsigned char* rgb = image.GetData();
+    const unsigned char* const alpha = image.HasAlpha() ? image.GetAlpha() : nullptr;
+    m_copy.resize(count);
+    for (std::size_t i = 0; i < count; ++i, rgb += 3)
+        m_copy[i] = PremultipliedPixel(rgb[0], rgb[1], rgb[2], alpha ? alpha[i] : 255);
+    m_pixels = m_copy.data();
+    m_stride = static_cast<std::size_t>(m_width);
+}
+
+void BitmapPixels::WriteImageBack()
+{
+    wxImage image(m_width, m_height, false);
+    const bool hasAlpha = m_bitmap.HasAlpha();
+    if (hasAlpha)
+        image.InitAlpha();
+    unsigned char* rgb = image.GetData();
+    for (std::size_t i = 0; i < m_copy.size(); ++i, rgb += 3)
+    {
+        const unsigned alpha = hasAlpha ? Channel(m_copy[i], 24) : 255;
+        rgb[0] = Unpremultiplied(Channel(m_copy[i], 16), alpha);
+        rgb[1] = Unpremultiplied(Channel(m_copy[i], 8), alpha);
+        rgb[2] = Unpremultiplied(Channel(m_copy[i], 0), alpha);
+        if (hasAlpha)
+            image.GetAlpha()[i] = static_cast<unsigned char>(alpha);
+    }
+    m_bitmap = wxBitmap(image);
+}
+} // namespace render

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <wx/bitmap.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace render
+{
+/// A pixel as 0xAARRGGBB. In a picture with opacity the channels are premultiplied by it.
+using Argb = std::uint32_t;
+
+inline constexpr Argb kWhite = 0xFFFFFFFF;
+
+constexpr Argb OpaquePixel(unsigned red, unsigned green, unsigned blue)
+{
+    return 0xFF000000U | red << 16 | green << 8 | blue;
+}
+
+/// The pixel of a colour with opacity as the toolkit stores it: each channel is c a / 255, rounded.
+constexpr Argb PremultipliedPixel(unsigned red, unsigned green, unsigned blue, unsigned alpha)
+{
+    const auto scaled = [alpha](unsigned channel)
+    {
+        const unsigned t = channel * alpha + 128;
+        return (t + (t >> 8)) >> 8;
+    };
+    return alpha << 24 | scaled(red) << 16 | scaled(green) << 8 | scaled(blue);
+}
+
+/**
+ * The pixels of a bitmap for reading and writing, for as long as this object lives.
+ *
+ * The one place that knows how the toolkit keeps them: they are reached in place, without a conversion, where the
+ * bitmap is backed by an image surface, and through an image that is written back at the end where it is not. The
+ * bitmap must not be selected into a drawing context meanwhile, and must not share its pixels with another bitmap.
+ */
+class BitmapPixels
+{
+public:
+    /// @param[in] bitmap valid, of depth 24 or 32.
+    explicit BitmapPixels(wxBitmap& bitmap);
+    ~BitmapPixels();
+    BitmapPixels(const BitmapPixels&) = delete;
+    BitmapPixels& operator=(const BitmapPixels&) = delete;
+
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+
+    /// One row from the top, 0 <= y < Height().
+    std::span<Argb> Row(int y) const
+    {
+        return {m_pixels + static_cast<std::size_t>(y) * m_stride, static_cast<std::size_t>(m_width)};
+    }
+
+    /// Whether pixels of bitmaps are reached in place by default; tests switch it off to try the other way.
+    static bool inPlace;
+
+private:
+    bool OpenInPlace();
+    void OpenImage();
+    void WriteImageBack();
+
+    wxBitmap& m_bitmap;
+    int m_width;
+    int m_height;
+    struct _cairo* m_context = nullptr; ///< keeps the surface alive; none when an image is used
+    Argb* m_pixels = nullptr;
+    std::size_t m_stride = 0; ///< pixels from row to row
+    std::vector<Argb> m_copy;
+};
+} // namespace render

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "render/BitmapPixels.h"
+
+#include <cstdint>
+#include <span>
+
+namespace render
+{
+/// One channel of a layer pixel over a map pixel; two integer divisions by 256, so white over white gives 254.
+constexpr unsigned BlendChannel(unsigned map, unsigned layer, unsigned alpha)
+{
+    return map * (255 - alpha) / 256 + layer * alpha / 256;
+}
+
+/**
+ * Blends a layer onto a map, both rows of red, green and blue bytes.
+ *
+ * Pure white in the layer means nothing is drawn there; the outermost one-pixel frame of the map is never changed.
+ *
+ * @param[in]     layer 3 * width * height bytes.
+ * @param[in,out] map   3 * width * height bytes.
+ * @param[in]     alpha opacity; 0 leaves the map as it is.
+ */
+void BlendLayer(std::span<const std::uint8_t> layer, std::span<std::uint8_t> map, int width, int height,
+                std::uint8_t alpha);
+
+/// The same on the pixels of two opaque bitmaps of one size. The layer is left white, ready for the next.
+void BlendAndWhiten(const BitmapPixels& layer, const BitmapPixels& map, std::uint8_t alpha);
+} // namespace render

@@ -1,0 +1,43 @@
+#include "render/Layer.h"
+
+#include "render/BitmapPixels.h"
+#include "render/Blend.h"
+
+#include <wx/graphics.h>
+
+#include <algorithm>
+
+namespace render
+{
+Layer::Layer(int side) : m_sheet(side, side)
+{
+    if (!m_sheet.IsOk())
+        return;
+    const BitmapPixels pixels(m_sheet);
+    for (int y = 0; y < side; ++y)
+        std::ranges::fill(pixels.Row(y), kWhite);
+}
+
+wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
+{
+    m_dc.SelectObject(m_sheet);
+    SwitchSmoothingOff(m_dc);
+    m_dc.SetPen(wxPen(colour, lineWidth));
+    m_dc.SetBrush(*wxTRANSPARENT_BRUSH);
+    m_dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
+    return m_dc;
+}
+
+void Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
+{
+    m_dc.SelectObject(wxNullBitmap);
+    const BitmapPixels sheet(m_sheet);
+    const BitmapPixels pixels(map);
+    BlendAndWhiten(sheet, pixels, alpha);
+}
+
+void SwitchSmoothingOff(wxDC& dc)
+{
+    dc.GetGraphicsContext()->SetAntialiasMode(wxANTIALIAS_NONE);
+}
+} // namespace render

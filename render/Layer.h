@@ -1,0 +1,43 @@
+#pragma once
+
+#include <wx/bitmap.h>
+#include <wx/colour.h>
+#include <wx/dcmemory.h>
+
+#include <cstdint>
+
+namespace render
+{
+/**
+ * The white sheet on which a layer is drawn before it is blended onto the map. One sheet serves all layers of a map.
+ *
+ * Begin(), draw, BlendOnto(); what is white is transparent.
+ */
+class Layer
+{
+public:
+    /// @param[in] side side of the map in pixels.
+    explicit Layer(int side);
+
+    /// False when there was not enough memory: then nothing can be drawn.
+    bool IsOk() const { return m_sheet.IsOk(); }
+
+    /**
+     * Starts a layer on the white sheet.
+     *
+     * @return a drawing context with a solid pen of the colour and width and a transparent brush. Shapes are drawn
+     *         without smoothing, so that they leave exactly their own colour; texts are transparent and smoothed.
+     */
+    wxDC& Begin(const wxColour& colour, int lineWidth);
+
+    /// Ends the layer: blends it onto the map, of the same size, and leaves the sheet white again.
+    void BlendOnto(wxBitmap& map, std::uint8_t alpha);
+
+private:
+    wxBitmap m_sheet;
+    wxMemoryDC m_dc;
+};
+
+/// A drawing context for shapes without smoothing, on a bitmap.
+void SwitchSmoothingOff(wxDC& dc);
+} // namespace render

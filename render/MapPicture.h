@@ -1,0 +1,30 @@
+#pragma once
+
+#include <wx/bitmap.h>
+#include <wx/dc.h>
+
+#include <memory>
+
+/**
+ * The map and the two overlays that can change without it, and how they lie over each other.
+ *
+ * Whoever changes a bitmap or a flag of a picture that is on the screen asks its canvas to refresh.
+ */
+struct MapPicture
+{
+    /// Forgets all bitmaps and hides the overlays.
+    void Clear();
+
+    /// Draws what is to be seen at (0, 0): the map, over it the greyline, over that the propagation overlay.
+    void Draw(wxDC& dc) const;
+
+    /// What Draw() shows, as a bitmap of its own. @pre there is a map bitmap.
+    wxBitmap Compose() const;
+
+    std::unique_ptr<wxBitmap> mapBitmap;
+    std::unique_ptr<wxBitmap> greylineBitmap;
+    std::unique_ptr<wxBitmap> propagationBitmap;
+    bool mapReady = false;        ///< the map may be shown
+    bool showGreyline = false;    ///< the greyline is shown over it
+    bool showPropagation = false; ///< the propagation overlay is shown over both
+};

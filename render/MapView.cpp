@@ -1,0 +1,32 @@
+#include "render/MapView.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace render
+{
+std::int64_t MapRadius(long zoomKm)
+{
+    return std::clamp(zoomKm, 100L, 20000L) * 1000;
+}
+
+std::int64_t VisibleLimit(const Configuration& settings)
+{
+    constexpr long kLargest = std::numeric_limits<std::int64_t>::max() / 1000;
+    return settings.compass.show ? std::clamp(settings.zoom, -kLargest, kLargest) * 1000 : 20000000;
+}
+
+MapView MakeMapView(const Configuration& settings, int compassTextHeight)
+{
+    const int size = static_cast<int>(settings.size);
+    MapView view;
+    view.projection.Init(0, 0, std::clamp(settings.centreLat, -90.0, 90.0),
+                         std::clamp(settings.centreLon, -180.0, 180.0));
+    view.compassTextHeight = settings.compass.text.show ? compassTextHeight : 1;
+    // The ring drawn outside the disc needs room.
+    const int ring = settings.compass.insideMap ? 0 : size / 100;
+    view.frame = MapFrame(size, MapRadius(settings.zoom), view.compassTextHeight + ring);
+    view.visibleLimit = VisibleLimit(settings);
+    return view;
+}
+} // namespace render

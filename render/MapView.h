@@ -1,0 +1,46 @@
+#pragma once
+
+#include "config/Configuration.h"
+#include "geo/AzimuthalProjection.h"
+#include "geo/MapFrame.h"
+
+#include <cstdint>
+
+/**
+ * How one map shows the world: where its centre lies, how metres become pixels and how far it reaches.
+ *
+ * A value that is fixed when the map is created. Layers read it and never change it; overlays drawn later belong to it,
+ * even if the settings have changed since.
+ */
+struct MapView
+{
+    AzimuthalProjection projection;
+    MapFrame frame;
+    std::int64_t visibleLimit = 0; ///< metres; what lies at this distance or beyond is not drawn
+    int compassTextHeight = 1;     ///< pixels
+
+    /// Whether a point at this distance from the centre is drawn: not the centre itself, nothing from the limit on.
+    bool IsVisible(std::int64_t distance) const { return distance >= 1 && distance < visibleLimit; }
+};
+
+namespace render
+{
+/// The smallest and the largest picture that can be made, in pixels.
+inline constexpr long kMinMapSize = 100;
+inline constexpr long kMaxMapSize = 8000;
+
+/// The radius in metres for a "Zoom" in kilometres, brought into 100..20000 km.
+std::int64_t MapRadius(long zoomKm);
+
+/// 20000000 m, or with the compass shown the "Zoom" as it stands in metres.
+std::int64_t VisibleLimit(const Configuration& settings);
+
+/**
+ * The view of a new map.
+ *
+ * @param[in] settings      its centre is brought into -90..90 and -180..180 degrees first.
+ * @param[in] compassTextHeight height of the compass font in pixels; it becomes the margin when the figures are shown.
+ * @pre the size lies in kMinMapSize..kMaxMapSize.
+ */
+MapView MakeMapView(const Configuration& settings, int compassTextHeight);
+} // namespace render

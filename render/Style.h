@@ -1,0 +1,13 @@
+#pragma once
+
+#include <wx/colour.h>
+#include <wx/font.h>
+
+/// The opaque colour of a stored value R + 256 G + 65536 B; higher bits do not count.
+wxColour ColourFromSetting(long value);
+
+namespace render
+{
+/// The font of a stored description; the toolkit's ordinary font where the description names none.
+wxFont FontFromSetting(const wxString& description);
+} // namespace render
