@@ -3,6 +3,8 @@
 #include <cairo.h>
 #include <wx/image.h>
 
+#include <algorithm>
+
 namespace render
 {
 namespace
@@ -15,6 +17,15 @@ unsigned Channel(Argb pixel, int shift)
 unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
 {
     return static_cast<unsigned char>(alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha);
+}
+
+/// The surface behind a bitmap is made when it is first drawn on; only then does a lack of memory show.
+bool HasMemory(const wxBitmap& bitmap)
+{
+    cairo_t* const context = bitmap.CairoCreate();
+    const bool good = cairo_status(context) == CAIRO_STATUS_SUCCESS;
+    cairo_destroy(context);
+    return good;
 }
 } // namespace
 
@@ -90,5 +101,16 @@ void BitmapPixels::WriteImageBack()
             image.GetAlpha()[i] = static_cast<unsigned char>(alpha);
     }
     m_bitmap = wxBitmap(image);
+}
+
+std::unique_ptr<wxBitmap> NewWhiteBitmap(int side)
+{
+    auto bitmap = std::make_unique<wxBitmap>(side, side);
+    if (!bitmap->IsOk() || !HasMemory(*bitmap))
+        return nullptr;
+    const BitmapPixels pixels(*bitmap);
+    for (int y = 0; y < side; ++y)
+        std::ranges::fill(pixels.Row(y), kWhite);
+    return bitmap;
 }
 } // namespace render

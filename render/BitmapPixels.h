@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -71,4 +72,7 @@ private:
     std::size_t m_stride = 0; ///< pixels from row to row
     std::vector<Argb> m_copy;
 };
+
+/// A white bitmap of a map's side at screen depth; none when there is not enough memory for it.
+std::unique_ptr<wxBitmap> NewWhiteBitmap(int side);
 } // namespace render

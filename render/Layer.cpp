@@ -5,22 +5,13 @@
 
 #include <wx/graphics.h>
 
-#include <algorithm>
-
 namespace render
 {
-Layer::Layer(int side) : m_sheet(side, side)
-{
-    if (!m_sheet.IsOk())
-        return;
-    const BitmapPixels pixels(m_sheet);
-    for (int y = 0; y < side; ++y)
-        std::ranges::fill(pixels.Row(y), kWhite);
-}
+Layer::Layer(int side) : m_sheet(NewWhiteBitmap(side)) {}
 
 wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
 {
-    m_dc.SelectObject(m_sheet);
+    m_dc.SelectObject(*m_sheet);
     SwitchSmoothingOff(m_dc);
     m_dc.SetPen(wxPen(colour, lineWidth));
     m_dc.SetBrush(*wxTRANSPARENT_BRUSH);
@@ -31,7 +22,7 @@ wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
 void Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
 {
     m_dc.SelectObject(wxNullBitmap);
-    const BitmapPixels sheet(m_sheet);
+    const BitmapPixels sheet(*m_sheet);
     const BitmapPixels pixels(map);
     BlendAndWhiten(sheet, pixels, alpha);
 }

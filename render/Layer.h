@@ -5,6 +5,7 @@
 #include <wx/dcmemory.h>
 
 #include <cstdint>
+#include <memory>
 
 namespace render
 {
@@ -20,7 +21,7 @@ public:
     explicit Layer(int side);
 
     /// False when there was not enough memory: then nothing can be drawn.
-    bool IsOk() const { return m_sheet.IsOk(); }
+    bool IsOk() const { return m_sheet != nullptr; }
 
     /**
      * Starts a layer on the white sheet.
@@ -34,7 +35,7 @@ public:
     void BlendOnto(wxBitmap& map, std::uint8_t alpha);
 
 private:
-    wxBitmap m_sheet;
+    std::unique_ptr<wxBitmap> m_sheet;
     wxMemoryDC m_dc;
 };
 

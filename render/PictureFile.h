@@ -1,0 +1,24 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+#include <wx/image.h>
+
+#include <optional>
+
+namespace render
+{
+/// The format that the last four characters of a path name, in any case: .png .jpg .bmp .pcx .pnm .tif; none for any
+/// other ending (.jpeg and .tiff included).
+std::optional<wxBitmapType> PictureTypeOf(const wxString& path);
+
+/**
+ * Writes a picture in the format that its path names, JPEG at quality 90.
+ *
+ * It appears whole or not at all: a file that was there is replaced only by a complete one. Failures are reported by
+ * the toolkit's log.
+ *
+ * @pre PictureTypeOf(path) has a value.
+ * @return whether it was written.
+ */
+bool SavePicture(wxImage picture, const wxString& path);
+} // namespace render

@@ -1,0 +1,79 @@
+#include "render/MapPicture.h"
+
+#include "tests/support/Pictures.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+constexpr render::Argb kBlue = render::OpaquePixel(0, 0, 255);
+
+std::unique_ptr<wxBitmap> Filled(int side, render::Argb pixel, int depth)
+{
+    auto bitmap = std::make_unique<wxBitmap>(side, side, depth);
+    const render::BitmapPixels pixels(*bitmap);
+    for (int y = 0; y < side; ++y)
+        std::ranges::fill(pixels.Row(y), pixel);
+    return bitmap;
+}
+
+MapPicture BluePictureWithOverlays()
+{
+    MapPicture picture;
+    picture.mapBitmap = Filled(8, kBlue, 24);
+    picture.greylineBitmap = Filled(8, render::PremultipliedPixel(0, 0, 0, 128), 32);
+    picture.propagationBitmap = Filled(8, render::PremultipliedPixel(255, 0, 0, 255), 32);
+    picture.mapReady = true;
+    return picture;
+}
+
+render::Argb Composed(const MapPicture& picture)
+{
+    wxBitmap composed = picture.Compose();
+    return ColoursOf(composed)[3][3];
+}
+
+TEST(MapPicture, ShowsTheMapAloneWhileOverlaysAreHidden)
+{
+    EXPECT_EQ(Composed(BluePictureWithOverlays()), kBlue);
+}
+
+TEST(MapPicture, ShowsNothingBeforeTheMapIsReady)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.mapReady = false;
+    EXPECT_EQ(Composed(picture), render::kWhite);
+}
+
+TEST(MapPicture, LaysTheGreylineOverTheMapByItsOpacity)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.showGreyline = true;
+    EXPECT_EQ(Composed(picture), render::OpaquePixel(0, 0, 127));
+}
+
+TEST(MapPicture, LaysPropagationOnTop)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.showGreyline = true;
+    picture.showPropagation = true;
+    EXPECT_EQ(Composed(picture), render::OpaquePixel(255, 0, 0));
+}
+
+TEST(MapPicture, ForgetsAndHidesEverythingWhenCleared)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.showGreyline = picture.showPropagation = true;
+    picture.Clear();
+    EXPECT_FALSE(picture.mapBitmap || picture.greylineBitmap || picture.propagationBitmap);
+    EXPECT_FALSE(picture.showGreyline || picture.showPropagation);
+}
+
+TEST(MapPicture, ShowsAnOverlayFlagWithoutABitmapAsNothing)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.greylineBitmap.reset();
+    picture.showGreyline = true;
+    EXPECT_EQ(Composed(picture), kBlue);
+}
+} // namespace
