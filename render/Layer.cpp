@@ -19,12 +19,23 @@ wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
     return m_dc;
 }
 
-void Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
+bool Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
 {
+    if (!BitmapPixels::inPlace)
+        return false;
     m_dc.SelectObject(wxNullBitmap);
     const BitmapPixels sheet(*m_sheet);
     const BitmapPixels pixels(map);
     BlendAndWhiten(sheet, pixels, alpha);
+    return true;
+}
+
+wxImage Layer::TakeImage()
+{
+    m_dc.SelectObject(wxNullBitmap);
+    const wxImage image = m_sheet->ConvertToImage();
+    *m_sheet = *NewWhiteBitmap(m_sheet->GetWidth());
+    return image;
 }
 
 void SwitchSmoothingOff(wxDC& dc)

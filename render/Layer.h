@@ -3,6 +3,7 @@
 #include <wx/bitmap.h>
 #include <wx/colour.h>
 #include <wx/dcmemory.h>
+#include <wx/image.h>
 
 #include <cstdint>
 #include <memory>
@@ -31,8 +32,16 @@ public:
      */
     wxDC& Begin(const wxColour& colour, int lineWidth);
 
-    /// Ends the layer: blends it onto the map, of the same size, and leaves the sheet white again.
-    void BlendOnto(wxBitmap& map, std::uint8_t alpha);
+    /**
+     * Ends the layer: blends it onto the map, of the same size, and leaves the sheet white again.
+     *
+     * @return false, with nothing done, where the pixels of bitmaps can't be reached in place; then TakeImage() ends
+     *         the layer.
+     */
+    bool BlendOnto(wxBitmap& map, std::uint8_t alpha);
+
+    /// Ends the layer: returns it as an image and leaves the sheet white again.
+    wxImage TakeImage();
 
 private:
     std::unique_ptr<wxBitmap> m_sheet;

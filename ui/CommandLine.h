@@ -1,0 +1,27 @@
+#pragma once
+
+#include "config/UtcTime.h"
+
+#include <optional>
+#include <string>
+
+namespace ui
+{
+/// What the user asked for on the command line. File names are bytes as the system passed them.
+struct CommandLine
+{
+    std::optional<std::string> settings; ///< take the settings from this file
+    std::optional<std::string> render;   ///< write the map to this picture, show no window
+    std::optional<UtcTime> time;         ///< draw for this time
+    std::optional<int> exitStatus;       ///< nothing is left to do: all was printed
+};
+
+/**
+ * Reads the command line. Help and version go to standard output; wrong use goes to standard error as "kavmap: " and
+ * what was wrong. Needs neither toolkit nor display.
+ */
+CommandLine ParseCommandLine(int argc, char** argv);
+
+/// A time written as YYYY-MM-DDTHH:MM; none for anything else and for dates and times that do not exist.
+std::optional<UtcTime> ParseUtcTime(const std::string& text);
+} // namespace ui

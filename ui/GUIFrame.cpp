@@ -1,0 +1,125 @@
+#include "ui/GUIFrame.h"
+
+#include "resources/icons/create.xpm"
+#include "resources/icons/fq_10_1.xpm"
+#include "resources/icons/fq_14_0.xpm"
+#include "resources/icons/fq_18_1.xpm"
+#include "resources/icons/fq_21_0.xpm"
+#include "resources/icons/fq_24_9.xpm"
+#include "resources/icons/fq_28_0.xpm"
+#include "resources/icons/fq_3_5.xpm"
+#include "resources/icons/fq_7_0.xpm"
+#include "resources/icons/fq_user.xpm"
+#include "resources/icons/greyline.xpm"
+#include "resources/icons/help.xpm"
+#include "resources/icons/muf.xpm"
+#include "resources/icons/options.xpm"
+#include "resources/icons/rel.xpm"
+#include "resources/icons/save.xpm"
+#include "resources/icons/signal.xpm"
+#include "resources/icons/snr.xpm"
+#include "ui/Ids.h"
+
+#include <wx/menu.h>
+#include <wx/sizer.h>
+
+namespace
+{
+struct Tool
+{
+    int id;
+    const char* label;
+    wxItemKind kind;
+    const char* const* icon;
+};
+
+constexpr Tool kTools[] = {
+    {ui::kIdCreate, "Create", wxITEM_NORMAL, icon_create},
+    {ui::kIdSave, "Save", wxITEM_NORMAL, icon_save},
+    {ui::kIdOptions, "Options", wxITEM_NORMAL, icon_options},
+    {ui::kIdHelp, "Help", wxITEM_NORMAL, icon_help},
+    {ui::kIdFirstFrequency, "tool", wxITEM_RADIO, icon_fq_3_5},
+    {ui::kIdFirstFrequency + 1, "tool", wxITEM_RADIO, icon_fq_7_0},
+    {ui::kIdFirstFrequency + 2, "tool", wxITEM_RADIO, icon_fq_10_1},
+    {ui::kIdFirstFrequency + 3, "tool", wxITEM_RADIO, icon_fq_14_0},
+    {ui::kIdFirstFrequency + 4, "tool", wxITEM_RADIO, icon_fq_18_1},
+    {ui::kIdFirstFrequency + 5, "tool", wxITEM_RADIO, icon_fq_21_0},
+    {ui::kIdFirstFrequency + 6, "tool", wxITEM_RADIO, icon_fq_24_9},
+    {ui::kIdFirstFrequency + 7, "tool", wxITEM_RADIO, icon_fq_28_0},
+    {ui::kIdLastFrequency, "tool", wxITEM_RADIO, icon_fq_user},
+    {ui::kIdParameterSdbw, "tool", wxITEM_RADIO, icon_signal},
+    {ui::kIdParameterSnr, "tool", wxITEM_RADIO, icon_snr},
+    {ui::kIdParameterMuf, "tool", wxITEM_RADIO, icon_muf},
+    {ui::kIdParameterRel, "tool", wxITEM_RADIO, icon_rel},
+    {ui::kIdGreyline, "tool", wxITEM_CHECK, icon_greyline},
+};
+} // namespace
+
+GUIFrame::GUIFrame(wxWindow* parent)
+    : wxFrame(parent, wxID_ANY, "Kavmap V3.1.9 QQ0QQQ", wxDefaultPosition, wxSize(765, 550),
+              wxDEFAULT_FRAME_STYLE | wxTAB_TRAVERSAL)
+{
+    CreateMenus();
+    m_statusBar = CreateStatusBar(2, wxSTB_SIZEGRIP);
+    m_canvas = new MapCanvas(this);
+    m_canvas->SetScrollRate(5, 5);
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(m_canvas, 1, wxEXPAND);
+    SetSizer(sizer);
+    CreateTools();
+    Layout();
+    BindCommands();
+}
+
+void GUIFrame::CreateMenus()
+{
+    auto* const file = new wxMenu;
+    file->Append(ui::kIdQuit, "&Quit\tAlt+F4", "Quit the application");
+    auto* const options = new wxMenu;
+    options->Append(ui::kIdProperties, "&Properties");
+    auto* const help = new wxMenu;
+    help->Append(ui::kIdAbout, "&About", "Show info about this application");
+
+    auto* const bar = new wxMenuBar;
+    bar->Append(file, "&File");
+    bar->Append(options, "&Options");
+    bar->Append(help, "&Help");
+    SetMenuBar(bar);
+}
+
+void GUIFrame::CreateTools()
+{
+    m_toolBar = CreateToolBar(wxTB_HORIZONTAL, ui::kIdToolBar);
+    m_toolBar->SetToolBitmapSize(wxSize(16, 15));
+    m_locator = new wxTextCtrl(m_toolBar, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_RIGHT);
+    m_toolBar->AddControl(m_locator);
+    for (const Tool& tool : kTools)
+    {
+        // Two radio groups side by side would be one.
+        if (tool.id == ui::kIdParameterSdbw)
+            m_toolBar->AddSeparator();
+        m_toolBar->AddTool(tool.id, tool.label, wxBitmap(tool.icon), wxNullBitmap, tool.kind);
+    }
+    m_toolBar->Realize();
+}
+
+void GUIFrame::BindCommands()
+{
+    Bind(wxEVT_ACTIVATE, &GUIFrame::OnActivate, this);
+    Bind(wxEVT_CLOSE_WINDOW, &GUIFrame::OnClose, this);
+    Bind(wxEVT_MENU, &GUIFrame::OnQuit, this, ui::kIdQuit);
+    Bind(wxEVT_MENU, &GUIFrame::OnProperties, this, ui::kIdProperties);
+    Bind(wxEVT_MENU, &GUIFrame::OnAbout, this, ui::kIdAbout);
+    Bind(wxEVT_TOOL, &GUIFrame::OnCreateMap, this, ui::kIdCreate);
+    Bind(wxEVT_TOOL, &GUIFrame::OnSaveImage, this, ui::kIdSave);
+    // The options tool passes its own handler and ends in that of the menu: handlers bound last are called first.
+    Bind(wxEVT_TOOL, &GUIFrame::OnProperties, this, ui::kIdOptions);
+    Bind(wxEVT_TOOL, &GUIFrame::OnOptionsTool, this, ui::kIdOptions);
+    Bind(wxEVT_TOOL, &GUIFrame::OnAbout, this, ui::kIdHelp);
+    Bind(wxEVT_TOOL, &GUIFrame::OnFrequencyTool, this, ui::kIdFirstFrequency, ui::kIdLastFrequency);
+    for (const int id : ui::kParameterTools)
+        Bind(wxEVT_TOOL, &GUIFrame::OnParameterTool, this, id);
+    Bind(wxEVT_TOOL, &GUIFrame::OnGreylineTool, this, ui::kIdGreyline);
+    m_canvas->Bind(wxEVT_LEFT_DOWN, &GUIFrame::OnCanvasLeftDown, this);
+    m_canvas->Bind(wxEVT_MOTION, &GUIFrame::OnCanvasMotion, this);
+}

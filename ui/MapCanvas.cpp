@@ -1,0 +1,28 @@
+#include "ui/MapCanvas.h"
+
+#include <wx/dcbuffer.h>
+#include <wx/settings.h>
+
+MapCanvas::MapCanvas(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size, long style)
+    : wxScrolled<wxPanel>(parent, id, position, size, style)
+{
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
+    Bind(wxEVT_PAINT, &MapCanvas::OnPaint, this);
+}
+
+void MapCanvas::ShowPicture()
+{
+    Refresh(true, nullptr);
+    Update();
+}
+
+void MapCanvas::OnPaint(wxPaintEvent&)
+{
+    wxAutoBufferedPaintDC dc(this);
+    dc.SetPen(*wxWHITE_PEN);
+    dc.SetBrush(*wxWHITE_BRUSH);
+    dc.DrawRectangle(GetClientSize());
+    DoPrepareDC(dc);
+    Draw(dc);
+}

@@ -1,0 +1,145 @@
+#include "ui/WxKavFrame.h"
+
+#include "config/DataFile.h"
+#include "render/Style.h"
+#include "ui/Ids.h"
+
+#include <wx/log.h>
+#include <wx/progdlg.h>
+
+namespace
+{
+/// The picture on the screen grows by so many rows at a time.
+constexpr int kBandRows = 100;
+
+int MeasureCompassText(const wxString& fontDescription)
+{
+    wxBitmap pixel(1, 1);
+    wxMemoryDC dc(pixel);
+    dc.SetFont(render::FontFromSetting(fontDescription));
+    return dc.GetTextExtent("123400").y;
+}
+
+wxImage LoadPicture(const wxString& name)
+{
+    // A picture that can't be loaded gets one message, the program's own.
+    const wxLogNull silent;
+    wxImage image;
+    image.LoadFile(FindDataFile(name));
+    return image;
+}
+} // namespace
+
+void WxKavFrame::OnCreateMap(wxCommandEvent&)
+{
+    CreateMap();
+}
+
+bool WxKavFrame::CreateMap()
+{
+    TakeCentreFromLocatorField();
+    if (m_settings->size < render::kMinMapSize || m_settings->size > render::kMaxMapSize)
+    {
+        ShowError("Size must be between 100 and 8000 pixels.\nIt might fail with large pixel values.");
+        return false;
+    }
+    BeginCreation();
+    if (!NewMap() || !DrawBaseMaps())
+        return false;
+    DrawLayers();
+    DrawOverlays();
+    FinishCreation();
+    return true;
+}
+
+void WxKavFrame::TakeCentreFromLocatorField()
+{
+    wxString& stored = m_settings->centreLoc;
+    if (m_locator->GetValue() == stored)
+        return;
+    stored = m_locator->GetValue().Upper();
+    Configuration::LocatorToLatLon(m_settings->centreLat, m_settings->centreLon, stored);
+    if (stored.length() != 6)
+        stored = "AA11RR";
+    Configuration::LatLonToLocator(stored, m_settings->centreLat, m_settings->centreLon);
+    m_locator->ChangeValue(stored);
+}
+
+void WxKavFrame::BeginCreation()
+{
+    m_canvas->mapReady = false;
+    ShowStep("Creating Map");
+    SetStatusText("", 1);
+    for (const int id : {ui::kIdCreate, ui::kIdSave, ui::kIdOptions})
+        m_toolBar->EnableTool(id, false);
+    m_greylineTimer.Stop();
+    m_propagationTimer.Stop();
+}
+
+bool WxKavFrame::NewMap()
+{
+    const CompassSettings& compass = m_settings->compass;
+    m_canvas->Clear();
+    m_view = render::MakeMapView(*m_settings, compass.text.show ? MeasureCompassText(compass.text.font) : 1);
+    m_canvas->mapBitmap = render::NewWhiteBitmap(m_view->frame.mapSize);
+    if (!m_canvas->mapBitmap)
+    {
+        ShowError("Error creating bitmap in function OnCreateMap0");
+        return false;
+    }
+    m_canvas->mapReady = true;
+    m_canvas->SetVirtualSize(m_view->frame.mapSize, m_view->frame.mapSize);
+    return true;
+}
+
+bool WxKavFrame::DrawBaseMaps()
+{
+    bool builtIn = true;
+    for (std::size_t i = 0; i < m_settings->sourceBitmaps.size(); ++i)
+    {
+        if (!m_settings->sourceBitmaps[i].show)
+            continue;
+        const wxImage image = LoadPicture(m_settings->sourceBitmaps[i].file);
+        if (!image.IsOk())
+        {
+            ShowError(wxString::Format("Error creating bitmap in function OnCreateMap%zu", i + 1));
+            return false;
+        }
+        ReprojectBaseMap(render::WorldPicture(image), *m_canvas->mapBitmap, true);
+        builtIn = false;
+    }
+    if (builtIn)
+        ReprojectBaseMap(render::BuiltInWorld(), *m_canvas->mapBitmap, true);
+    return true;
+}
+
+void WxKavFrame::ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& map, bool showProgress)
+{
+    const int size = m_view->frame.mapSize;
+    std::optional<wxProgressDialog> progress;
+    if (showProgress && IsShown())
+        progress.emplace("Kavdex", wxString(' ', 28) + "Creating Map" + wxString(' ', 28), size, this,
+                         wxPD_APP_MODAL | wxPD_AUTO_HIDE);
+    for (int first = 0; first < size; first += kBandRows)
+    {
+        const int end = std::min(first + kBandRows, size);
+        {
+            const render::BitmapPixels pixels(map);
+            for (int row = first; row < end; ++row)
+                render::DrawBaseMapRow(*m_view, source, row, pixels.Row(row));
+        }
+        if (progress)
+            progress->Update(end);
+        m_canvas->ShowPicture();
+    }
+}
+
+void WxKavFrame::FinishCreation()
+{
+    m_layer.reset();
+    ShowStep("Finished...");
+    m_canvas->mapReady = true;
+    for (const int id : {ui::kIdCreate, ui::kIdSave, ui::kIdOptions, ui::kIdGreyline})
+        m_toolBar->EnableTool(id, true);
+    m_toolBar->ToggleTool(ui::kIdGreyline, m_settings->greyzone.show);
+}

@@ -1,0 +1,146 @@
+#include "ui/WxKavFrame.h"
+
+#include "geo/Angles.h"
+#include "render/PictureFile.h"
+#include "ui/Ids.h"
+
+#include <wx/filedlg.h>
+#include <wx/filefn.h>
+#include <wx/msgdlg.h>
+#include <wx/version.h>
+
+#include <array>
+
+namespace
+{
+/// A locator of the right length to write another into.
+constexpr const char* kScratchLocator = "AA11RR";
+} // namespace
+
+WxKavFrame::WxKavFrame(wxWindow* parent) : WxKavFrame(parent, std::make_unique<Configuration>("Kavdex")) {}
+
+WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings)
+    : GUIFrame(parent),
+      m_settings(std::move(settings)),
+      m_greylineTimer(this, ui::kIdGreylineTimer),
+      m_propagationTimer(this, ui::kIdPropagationTimer)
+{
+    SetStatusText("Kavmap By QQ0QQQ", 0);
+    SetStatusText(wxVERSION_STRING, 1);
+    m_locator->ChangeValue(m_settings->centreLoc);
+    m_toolBar->EnableTool(ui::kIdSave, false);
+    m_toolBar->EnableTool(ui::kIdGreyline, false);
+    SetPropagationTools(false, m_settings->propagation.frequency, m_settings->propagation.parameter);
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { DrawGreyline(); }, ui::kIdGreylineTimer);
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { DrawPropagation(false); }, ui::kIdPropagationTimer);
+    m_canvas->mapReady = true;
+}
+
+void WxKavFrame::ShowStep(const wxString& text)
+{
+    SetStatusText(text, 0);
+    if (onStep)
+        onStep(text);
+}
+
+void WxKavFrame::ShowError(const wxString& text)
+{
+    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, this);
+}
+
+void WxKavFrame::SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex)
+{
+    for (int id = ui::kIdFirstFrequency; id <= ui::kIdLastFrequency; ++id)
+    {
+        m_toolBar->EnableTool(id, enable);
+        if (id - ui::kIdFirstFrequency == frequencyIndex)
+            m_toolBar->ToggleTool(id, true);
+    }
+    for (int parameter = 0; parameter < 4; ++parameter)
+    {
+        m_toolBar->EnableTool(ui::kParameterTools[parameter], enable);
+        if (parameter == parameterIndex)
+            m_toolBar->ToggleTool(ui::kParameterTools[parameter], true);
+    }
+    if (m_settings->greyzone.show)
+        m_toolBar->ToggleTool(ui::kIdGreyline, true);
+}
+
+void WxKavFrame::OnClose(wxCloseEvent&)
+{
+    Destroy();
+}
+
+void WxKavFrame::OnQuit(wxCommandEvent&)
+{
+    Destroy();
+}
+
+void WxKavFrame::OnProperties(wxCommandEvent&) {}
+
+void WxKavFrame::OnAbout(wxCommandEvent&)
+{
+    wxMessageBox("Kavmap by QQ0QQQ\n" wxVERSION_STRING "-Linux-Unicode build", "Welcome to...", wxOK | wxCENTRE, this);
+}
+
+void WxKavFrame::OnCanvasMotion(wxMouseEvent& event)
+{
+    if (!m_view)
+        return;
+    const wxPoint pixel = m_canvas->CalcUnscrolledPosition(event.GetPosition());
+    const geo::MapPoint point = m_view->frame.PixelToMap(pixel.x, pixel.y);
+    const auto [distanceKm, bearingDeg] = geo::RangeAndBearingOf(point);
+    if (static_cast<double>(m_view->frame.mapRadius / 1000) <= distanceKm)
+    {
+        SetStatusText("", 0);
+        return;
+    }
+    double lon = 0.0;
+    double lat = 0.0;
+    m_view->projection.Inverse(lon, lat, point.x, point.y);
+    lon *= geo::kDegPerRad;
+    lat *= geo::kDegPerRad;
+    wxString locator = kScratchLocator;
+    Configuration::LatLonToLocator(locator, lat, lon);
+    SetStatusText(wxString::Format("lat = %3.1f / long = %3.1f / %s / %5.1f km / %3.1f degs", lat, lon, locator,
+                                   distanceKm, bearingDeg),
+                  0);
+}
+
+wxString WxKavFrame::DefaultPictureName() const
+{
+    static constexpr std::array<const char*, 4> kSuffixes{"_SDBW", "_SNR", "_MUF", "_REL"};
+    const PropagationSettings& propagation = m_settings->propagation;
+    const auto parameter = static_cast<std::size_t>(propagation.parameter);
+    if (propagation.show && parameter >= kSuffixes.size())
+        return "";
+    return m_settings->centreLoc + (propagation.show ? kSuffixes[parameter] : "") + ".jpg";
+}
+
+void WxKavFrame::OnSaveImage(wxCommandEvent&)
+{
+    wxFileDialog dialog(this, "Save Image", wxGetCwd(), DefaultPictureName(),
+                        "Image Files " + wxImage::GetImageExtWildcard(), wxFD_SAVE);
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    const wxString path = dialog.GetPath();
+    if (render::PictureTypeOf(path))
+        render::SavePicture(m_canvas->Compose().ConvertToImage(), path);
+    else
+        ShowError("Couldn't save " + path);
+}
+
+void WxKavFrame::OnFrequencyTool(wxCommandEvent& event)
+{
+    m_settings->propagation.frequency = event.GetId() - ui::kIdFirstFrequency;
+    DrawPropagation(true);
+}
+
+void WxKavFrame::OnParameterTool(wxCommandEvent& event)
+{
+    const auto* const tool = std::ranges::find(ui::kParameterTools, event.GetId());
+    m_settings->propagation.parameter = static_cast<int>(tool - ui::kParameterTools);
+    DrawPropagation(true);
+}

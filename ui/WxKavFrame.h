@@ -1,0 +1,98 @@
+#pragma once
+
+#include "config/Configuration.h"
+#include "render/BaseMap.h"
+#include "render/Layer.h"
+#include "render/MapView.h"
+#include "ui/GUIFrame.h"
+
+#include <wx/timer.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+/**
+ * The main window: its commands, its timers and the creation of maps.
+ *
+ * Without being shown it still creates maps; then no progress dialog appears.
+ */
+class WxKavFrame : public GUIFrame
+{
+public:
+    /// With the settings of the working file.
+    explicit WxKavFrame(wxWindow* parent);
+    WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings);
+
+    /**
+     * Creates the map that the settings describe: base picture, layers, overlays.
+     *
+     * A size that cannot be made leaves everything as it was. Any other error that stops the creation leaves the tools
+     * for creating, saving and options disabled and the timers stopped.
+     *
+     * @return whether the map was finished.
+     */
+    bool CreateMap();
+
+    /// What the canvas shows.
+    const MapPicture& Picture() const { return *m_canvas; }
+
+    /// Told the text of every step of a creation; none by default.
+    std::function<void(const wxString& step)> onStep;
+
+    /**
+     * Blends a layer onto a picture of the map and makes that the map: every pixel of the layer that is not white, but
+     * for the outermost frame.
+     *
+     * @param[in] layerImage, mapImage of one size.
+     * @param[in] alpha opacity; its low eight bits count, and 0 leaves the map as it is.
+     */
+    void BlendLayer(wxImage layerImage, wxImage mapImage, int alpha);
+
+    /// Enables or disables the tools for frequency and parameter and toggles those that are chosen; an index that is no
+    /// tool's chooses none.
+    void SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex);
+
+protected:
+    void OnClose(wxCloseEvent& event) override;
+    void OnQuit(wxCommandEvent& event) override;
+    void OnProperties(wxCommandEvent& event) override;
+    void OnAbout(wxCommandEvent& event) override;
+    void OnCanvasLeftDown(wxMouseEvent&) override {}
+    void OnCanvasMotion(wxMouseEvent& event) override;
+    void OnCreateMap(wxCommandEvent& event) override;
+    void OnSaveImage(wxCommandEvent& event) override;
+    void OnFrequencyTool(wxCommandEvent& event) override;
+    void OnParameterTool(wxCommandEvent& event) override;
+    void OnGreylineTool(wxCommandEvent& event) override;
+
+private:
+    void ShowStep(const wxString& text);
+    void ShowError(const wxString& text);
+    bool HasMap() const { return m_view && m_canvas->mapBitmap; }
+    wxString DefaultPictureName() const;
+
+    // Creating a map, in this order.
+    void TakeCentreFromLocatorField();
+    void BeginCreation();
+    bool NewMap();
+    bool DrawBaseMaps();
+    void ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& map, bool showProgress);
+    void DrawLayers();
+    void DrawOverlays();
+    void FinishCreation();
+
+    // One layer: named in the status bar, drawn on a white sheet, blended.
+    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, int alpha, int lineWidth);
+    void EndLayer(int alpha);
+
+    // The overlays that follow the clock.
+    void DrawGreyline();
+    void DrawPropagation(bool selectionChanged);
+
+    std::unique_ptr<Configuration> m_settings;
+    wxTimer m_greylineTimer;
+    wxTimer m_propagationTimer;
+    std::optional<MapView> m_view;        ///< of the map on the canvas
+    std::optional<render::Layer> m_layer; ///< for as long as a map is being created
+};

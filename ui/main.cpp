@@ -1,0 +1,38 @@
+#include "render/PictureFile.h"
+#include "ui/WxKavApp.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+wxIMPLEMENT_APP_NO_MAIN(WxKavApp);
+
+namespace
+{
+/// An outside program that asks for a key would wait for ever: it inherits an empty standard input.
+void EmptyStandardInput()
+{
+    const int null = open("/dev/null", O_RDONLY);
+    if (null > 0)
+    {
+        dup2(null, STDIN_FILENO);
+        close(null);
+    }
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    ui::CommandLine& line = WxKavApp::commandLine = ui::ParseCommandLine(argc, argv);
+    if (line.exitStatus)
+        return *line.exitStatus;
+    if (line.render && !render::PictureTypeOf(*line.render))
+    {
+        std::fprintf(stderr, "kavmap: Couldn't save %s\n", line.render->c_str());
+        return 1;
+    }
+    EmptyStandardInput();
+    int toolkitArgc = 1;
+    const int status = wxEntry(toolkitArgc, argv);
+    return status < 0 ? 1 : status;
+}
