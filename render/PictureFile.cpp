@@ -1,13 +1,40 @@
 #include "render/PictureFile.h"
 
+#include <wx/filefn.h>
+#include <wx/filename.h>
 #include <wx/log.h>
 #include <wx/wfstream.h>
 
 #include <array>
+#include <cstdio>
+#include <sys/stat.h>
 #include <utility>
 
 namespace render
 {
+namespace
+{
+bool WritePicture(const wxImage& picture, const wxString& path, wxBitmapType type)
+{
+    wxFileOutputStream file(path);
+    // Some writers close the stream, so its last error is asked for, not whether it is open.
+    return picture.SaveFile(file, type) && file.GetLastError() == wxSTREAM_NO_ERROR;
+}
+
+/// Gives a complete file the place and the permissions of another that may be there.
+bool TakePlaceOf(const wxString& path, const wxString& complete)
+{
+    const mode_t mask = umask(0);
+    umask(mask);
+    struct stat older
+    {
+    };
+    const bool exists = stat(path.fn_str(), &older) == 0;
+    return chmod(complete.fn_str(), exists ? older.st_mode & 0777 : 0666 & ~mask) == 0 &&
+           std::rename(complete.fn_str(), path.fn_str()) == 0;
+}
+} // namespace
+
 std::optional<wxBitmapType> PictureTypeOf(const wxString& path)
 {
     static constexpr std::array<std::pair<const char*, wxBitmapType>, 6> kTypes{{{".png", wxBITMAP_TYPE_PNG},
@@ -27,15 +54,13 @@ bool SavePicture(wxImage picture, const wxString& path)
 {
     picture.SetOption(wxIMAGE_OPTION_QUALITY, 90);
     // Written beside the target and renamed, so that a failure leaves an older picture alone.
-    wxTempFileOutputStream file(path);
-    if (!file.IsOk())
+    const wxString beside = wxFileName::CreateTempFileName(path);
+    if (beside.empty())
         return false;
-    if (!picture.SaveFile(file, *PictureTypeOf(path)) || !file.IsOk())
-    {
-        file.Discard();
-        wxLogError("Couldn't write the picture %s", path);
-        return false;
-    }
-    return file.Commit();
+    if (WritePicture(picture, beside, *PictureTypeOf(path)) && TakePlaceOf(path, beside))
+        return true;
+    wxRemoveFile(beside);
+    wxLogError("Couldn't write the picture %s", path);
+    return false;
 }
 } // namespace render

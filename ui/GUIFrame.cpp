@@ -67,7 +67,6 @@ GUIFrame::GUIFrame(wxWindow* parent)
     sizer->Add(m_canvas, 1, wxEXPAND);
     SetSizer(sizer);
     CreateTools();
-    Layout();
     BindCommands();
 }
 
@@ -92,6 +91,8 @@ void GUIFrame::CreateTools()
     m_toolBar = CreateToolBar(wxTB_HORIZONTAL, ui::kIdToolBar);
     m_toolBar->SetToolBitmapSize(wxSize(16, 15));
     m_locator = new wxTextCtrl(m_toolBar, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_RIGHT);
+    // A little wider than a locator: all tools must fit beside it.
+    m_locator->SetInitialSize(m_locator->GetSizeFromText("JO65HQ0"));
     m_toolBar->AddControl(m_locator);
     for (const Tool& tool : kTools)
     {

@@ -26,7 +26,7 @@ int main(int argc, char** argv)
     ui::CommandLine& line = WxKavApp::commandLine = ui::ParseCommandLine(argc, argv);
     if (line.exitStatus)
         return *line.exitStatus;
-    if (line.render && !render::PictureTypeOf(*line.render))
+    if (line.render && !render::PictureTypeOf(wxString::From8BitData(line.render->c_str())))
     {
         std::fprintf(stderr, "kavmap: Couldn't save %s\n", line.render->c_str());
         return 1;

@@ -1,0 +1,83 @@
+#include "ui/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace
+{
+using ui::ParseUtcTime;
+
+ui::CommandLine Parse(std::vector<std::string> words)
+{
+    words.insert(words.begin(), "/usr/bin/kavmap");
+    std::vector<char*> argv;
+    for (std::string& word : words)
+        argv.push_back(word.data());
+    argv.push_back(nullptr);
+    return ui::ParseCommandLine(static_cast<int>(words.size()), argv.data());
+}
+
+TEST(ParseUtcTime, ReadsDateAndTime)
+{
+    EXPECT_EQ(ParseUtcTime("2026-03-20T12:30"), (UtcTime{2026, 2, 20, 12, 30, 0}));
+    EXPECT_EQ(ParseUtcTime("2024-02-29T23:59"), (UtcTime{2024, 1, 29, 23, 59, 0}));
+    EXPECT_EQ(ParseUtcTime("0000-01-01T00:00"), (UtcTime{0, 0, 1, 0, 0, 0}));
+}
+
+TEST(ParseUtcTime, RefusesTimesThatDoNotExist)
+{
+    for (const char* text : {"2026-02-29T00:00", "2026-13-01T00:00", "2026-00-01T00:00", "2026-04-31T00:00",
+                             "2026-04-00T00:00", "2026-04-01T24:00", "2026-04-01T12:60"})
+        EXPECT_FALSE(ParseUtcTime(text)) << text;
+}
+
+TEST(ParseUtcTime, RefusesAnythingElse)
+{
+    for (const char* text : {"", "now", "2026-04-01", "2026-04-01 12:00", "2026-4-1T12:00", "2026-04-01T12:00Z",
+                             "2026-04-01T12:00:00", "+026-04-01T12:00", "2026-04-01T1a:00", " 026-04-01T12:00"})
+        EXPECT_FALSE(ParseUtcTime(text)) << text;
+}
+
+TEST(CommandLine, IsEmptyForTheWindow)
+{
+    const ui::CommandLine line = Parse({});
+    EXPECT_FALSE(line.render || line.settings || line.time || line.exitStatus);
+}
+
+TEST(CommandLine, TakesShortAndLongOptions)
+{
+    const ui::CommandLine shorts = Parse({"-r", "a.png", "-t", "2026-03-20T12:30", "-s", "/dev/null"});
+    const ui::CommandLine longs = Parse({"--render=a.png", "--time", "2026-03-20T12:30", "--settings=/dev/null"});
+    for (const ui::CommandLine& line : {shorts, longs})
+    {
+        EXPECT_EQ(line.render, "a.png");
+        EXPECT_EQ(line.settings, "/dev/null");
+        EXPECT_EQ(line.time, (UtcTime{2026, 2, 20, 12, 30, 0}));
+        EXPECT_FALSE(line.exitStatus);
+    }
+}
+
+TEST(CommandLine, EndsWithOneOnWrongUse)
+{
+    const std::vector<std::vector<std::string>> wrong{
+        {"--nonsense"},          {"-x"},     {"--render"}, {"-t"}, {"--time", "tomorrow"}, {"stray"},
+        {"-s", "/no/such/file"}, {"-s", "/"}};
+    for (const auto& words : wrong)
+    {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(Parse(words).exitStatus, 1) << words[0];
+        EXPECT_EQ(testing::internal::GetCapturedStderr().rfind("kavmap: ", 0), 0u) << words[0];
+    }
+}
+
+TEST(CommandLine, EndsWithZeroOnHelpAndVersion)
+{
+    for (const char* word : {"-h", "--help", "--version"})
+    {
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(Parse({word}).exitStatus, 0);
+        EXPECT_FALSE(testing::internal::GetCapturedStdout().empty());
+    }
+}
+} // namespace

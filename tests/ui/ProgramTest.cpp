@@ -1,0 +1,211 @@
+#include "tests/support/TemporaryHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <wx/dir.h>
+#include <wx/filename.h>
+#include <wx/image.h>
+
+#include <cstdlib>
+#include <sstream>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+namespace
+{
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// Starts the program in an empty home and keeps what it printed.
+class ProgramTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { wxInitAllImageHandlers(); }
+
+    int Run(const std::string& arguments, const std::string& environment = "")
+    {
+        const std::string command =
+            "timeout 100 env " + environment + " " KAVMAP_PROGRAM " " + arguments + " >out.txt 2>err.txt </dev/null";
+        const int status = std::system(command.c_str());
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    std::string Out() const { return home.Read("out.txt"); }
+
+    /// Standard error without what the toolkit's own libraries say about the machine.
+    std::string Err() const
+    {
+        std::istringstream lines(home.Read("err.txt"));
+        std::string ours;
+        for (std::string line; std::getline(lines, line);)
+            if (line.rfind("kavmap: ", 0) == 0 || (!ours.empty() && line.find("WARNING") == std::string::npos))
+                ours += line + "\n";
+        return ours;
+    }
+
+    wxImage Picture(const wxString& name) const
+    {
+        wxImage image;
+        image.LoadFile(home.Path(name));
+        return image;
+    }
+
+    const TemporaryHome home;
+};
+
+TEST_F(ProgramTest, PrintsItsOptionsWithoutADisplay)
+{
+    EXPECT_EQ(Run("--help", "-u DISPLAY"), 0);
+    for (const char* option : {"--help", "--version", "--settings", "--render", "--time"})
+        EXPECT_THAT(Out(), HasSubstr(option));
+    EXPECT_EQ(Err(), "");
+}
+
+TEST_F(ProgramTest, PrintsItsVersionWithoutADisplay)
+{
+    EXPECT_EQ(Run("--version", "-u DISPLAY"), 0);
+    EXPECT_THAT(Out(), StartsWith("Kavmap 3.1.9\nwxWidgets 3.2"));
+}
+
+TEST_F(ProgramTest, SaysWhatIsMissingWithoutADisplay)
+{
+    EXPECT_EQ(Run("--render map.png", "-u DISPLAY -u WAYLAND_DISPLAY"), 1);
+    EXPECT_THAT(Err(), StartsWith("kavmap: no display"));
+    EXPECT_THAT(Err(), HasSubstr("xvfb-run -a"));
+}
+
+TEST_F(ProgramTest, RefusesWrongUse)
+{
+    for (const char* arguments : {"--nonsense", "--render", "--time yesterday --render a.png", "stray.png",
+                                  "--settings nowhere.ini --render a.png", "--settings . --render a.png"})
+    {
+        EXPECT_EQ(Run(arguments), 1) << arguments;
+        EXPECT_THAT(Err(), StartsWith("kavmap: ")) << arguments;
+    }
+}
+
+TEST_F(ProgramTest, DrawsTheDefaultMapInEveryFormat)
+{
+    home.Write("small.ini", "Size=150\n");
+    for (const char* name : {"a.png", "a.jpg", "a.bmp", "a.pcx", "a.pnm", "a.tif", "B.PNG"})
+    {
+        EXPECT_EQ(Run(std::string("--settings small.ini --render ") + name), 0) << name;
+        EXPECT_EQ(Picture(name).GetSize(), wxSize(150, 150)) << name;
+        EXPECT_EQ(Err(), "") << name;
+    }
+}
+
+TEST_F(ProgramTest, RefusesOtherEndingsBeforeDrawing)
+{
+    for (const char* name : {"a.jpeg", "a.gif", "a", "png"})
+    {
+        EXPECT_EQ(Run(std::string("-r ") + name), 1) << name;
+        EXPECT_EQ(Err(), std::string("kavmap: Couldn't save ") + name + "\n");
+        EXPECT_FALSE(wxFileName::Exists(home.Path(name)));
+    }
+}
+
+TEST_F(ProgramTest, CompletesTheWorkingFileAndUsesItsValues)
+{
+    home.Write(".Kavdex", "Size=123\n");
+    EXPECT_EQ(Run("-r a.png"), 0);
+    EXPECT_EQ(Picture("a.png").GetWidth(), 123);
+    EXPECT_THAT(home.Read(".Kavdex"), HasSubstr("Zoom=20000"));
+}
+
+TEST_F(ProgramTest, LeavesTheWorkingFileAloneWithSettingsOfItsOwn)
+{
+    home.Write(".Kavdex", "Size=123\nZoom=777\n");
+    home.Write("own.ini", "Size=140\n");
+    EXPECT_EQ(Run("-s own.ini -r a.png"), 0);
+    EXPECT_EQ(Picture("a.png").GetWidth(), 140);
+    EXPECT_EQ(home.Read(".Kavdex"), "Size=123\nZoom=777\n");
+    EXPECT_EQ(home.Read("own.ini"), "Size=140\n");
+}
+
+TEST_F(ProgramTest, WritesNothingWhenTheCreationStops)
+{
+    home.Write("map.png", "precious");
+    home.Write("big.ini", "Size=8001\n");
+    EXPECT_EQ(Run("-s big.ini -r map.png"), 1);
+    EXPECT_EQ(Err(), "kavmap: Size must be between 100 and 8000 pixels.\nIt might fail with large pixel values.\n");
+    home.Write("source.ini", "Size=120\n[SourceBitmap]\nShow1=1\nFile1=gone.png\n");
+    EXPECT_EQ(Run("-s source.ini -r map.png"), 1);
+    EXPECT_EQ(Err(), "kavmap: Error creating bitmap in function OnCreateMap1\n");
+    EXPECT_EQ(home.Read("map.png"), "precious");
+}
+
+TEST_F(ProgramTest, ReplacesAPictureWholeAndLeavesNothingBeside)
+{
+    home.Write("map.png", "old");
+    home.Write("small.ini", "Size=120\n");
+    EXPECT_EQ(Run("-s small.ini -r map.png"), 0);
+    EXPECT_TRUE(Picture("map.png").IsOk());
+    wxArrayString files;
+    wxDir::GetAllFiles(home.Path(""), &files, "map.png*");
+    EXPECT_EQ(files.size(), 1u);
+}
+
+TEST_F(ProgramTest, SaysWhenThePictureCannotBeWritten)
+{
+    home.Write("small.ini", "Size=120\n");
+    EXPECT_EQ(Run("-s small.ini -r nowhere/map.png"), 1);
+    EXPECT_THAT(Err(), StartsWith("kavmap: "));
+    wxFileName::Mkdir(home.Path("dir.png"));
+    EXPECT_EQ(Run("-s small.ini -r dir.png"), 1);
+    EXPECT_THAT(Err(), StartsWith("kavmap: "));
+}
+
+TEST_F(ProgramTest, SaysWhenTheDiscIsFull)
+{
+    if (!wxFileName::Exists("/dev/full"))
+        GTEST_SKIP();
+    home.Write("small.ini", "Size=120\n");
+    // No file may grow beyond one block.
+    const int status = std::system(("cd " + home.Path("").utf8_string() +
+                                    " && bash -c 'trap \"\" XFSZ; ulimit -f 1; timeout 60 " KAVMAP_PROGRAM
+                                    " -s small.ini -r map.bmp' 2>err.txt")
+                                       .c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_FALSE(wxFileName::Exists(home.Path("map.bmp")));
+}
+
+TEST_F(ProgramTest, TakesFileNamesOutsideAsciiInAnyLocale)
+{
+    const wxString name = wxString::FromUTF8("blåbær/地図.png");
+    home.Write(wxString::FromUTF8("blåbær/stilling ø.ini"), "Size=110\n");
+    for (const char* locale : {"LC_ALL=C", "LC_ALL=C.UTF-8"})
+    {
+        wxRemoveFile(home.Path(name));
+        EXPECT_EQ(Run("-s 'blåbær/stilling ø.ini' -r blåbær/地図.png", locale), 0) << locale;
+        EXPECT_EQ(Picture(name).GetWidth(), 110) << locale;
+    }
+}
+
+TEST_F(ProgramTest, LoadsUsersPicturesOfAnyKind)
+{
+    wxImage grey(37, 19);
+    grey.SetRGB(wxRect(0, 0, 37, 19), 90, 90, 90);
+    grey.SaveFile(home.Path("grey.png"), wxBITMAP_TYPE_PNG);
+    wxImage pixel(1, 1);
+    pixel.SetRGB(0, 0, 1, 2, 3);
+    pixel.SaveFile(home.Path("pixel.bmp"), wxBITMAP_TYPE_BMP);
+    wxImage alpha(8, 4);
+    alpha.InitAlpha();
+    alpha.SaveFile(home.Path("alpha.png"), wxBITMAP_TYPE_PNG);
+    wxImage(8000, 4000).SaveFile(home.Path("large.jpg"), wxBITMAP_TYPE_JPEG);
+    for (const char* name : {"grey.png", "pixel.bmp", "alpha.png", "large.jpg"})
+    {
+        home.Write("own.ini", std::string("Size=130\n[SourceBitmap]\nShow1=1\nFile1=") + name + "\n");
+        EXPECT_EQ(Run("-s own.ini -r a.png"), 0) << name;
+        EXPECT_EQ(Picture("a.png").GetWidth(), 130) << name;
+    }
+}
+
+TEST_F(ProgramTest, DrawsTheSmallestMap)
+{
+    home.Write("tiny.ini", "Size=100\nZoom=100\n[Compass]\nFont=Sans 99\n");
+    EXPECT_EQ(Run("-s tiny.ini -r a.png"), 0);
+    EXPECT_EQ(Picture("a.png").GetWidth(), 100);
+}
+} // namespace
