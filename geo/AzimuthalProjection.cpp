@@ -87,7 +87,7 @@ std::int64_t AzimuthalProjection::Inverse(double& lonRad, double& latRad, double
     }
 
     latRad = std::asin(std::clamp(cosz * sinLat0 + y * sinz * cosLat0 / rh, -1.0, 1.0));
-    if (std::fabs(std::fabs(centreLat) - geo::kPi / 2) <= kNearZero)
+    if (IsPolar())
     {
         const double turned = centreLat >= 0.0 ? centreLon + std::atan2(x, -y) : centreLon - std::atan2(-x, y);
         lonRad = AdjustLon(turned);
@@ -98,4 +98,9 @@ std::int64_t AzimuthalProjection::Inverse(double& lonRad, double& latRad, double
     if (std::fabs(con) >= kNearZero || std::fabs(x) >= kNearZero)
         lonRad = AdjustLon(centreLon + std::atan2(x * sinz * cosLat0, con * rh));
     return distance;
+}
+
+bool AzimuthalProjection::IsPolar() const
+{
+    return std::fabs(std::fabs(centreLat) - geo::kPi / 2) <= kNearZero;
 }

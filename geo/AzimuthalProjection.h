@@ -62,6 +62,9 @@ public:
      */
     std::int64_t Inverse(double& lonRad, double& latRad, double x, double y) const;
 
+    /// Whether the centre counts as a pole (within 1e-6 radians). Longitudes then follow from the direction alone.
+    bool IsPolar() const;
+
     double sinLat0 = 0.0;
     double cosLat0 = 1.0;
     double centreLon = 0.0; ///< radians
