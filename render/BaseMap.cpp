@@ -1,7 +1,5 @@
 #include "render/BaseMap.h"
 
-#include "geo/Angles.h"
-#include "geo/Truncate.h"
 #include "resources/world.xpm"
 
 namespace render
@@ -25,20 +23,8 @@ const WorldPicture& BuiltInWorld()
     return world;
 }
 
-void DrawBaseMapRow(const MapView& view, const WorldPicture& world, int row, std::span<Argb> pixels)
+geo::RowSampler BaseMapRows(const MapView& view, const WorldPicture& world)
 {
-    const double xScale = world.Width() / 360.0;
-    const double yScale = world.Height() / 180.0;
-    for (int column = 0; column < view.frame.mapSize; ++column)
-    {
-        const geo::MapPoint point = view.frame.PixelToMap(column, row);
-        double lon = 0.0;
-        double lat = 0.0;
-        Argb pixel = kWhite;
-        if (view.IsVisible(view.projection.Inverse(lon, lat, point.x, point.y)))
-            pixel = world.At(geo::TruncateToInt32(xScale * (lon * geo::kDegPerRad + 180)),
-                             geo::TruncateToInt32(yScale * (90 - lat * geo::kDegPerRad)));
-        pixels[static_cast<std::size_t>(column)] = pixel;
-    }
+    return {view.Disc(), world.Cells(), kWhite};
 }
 } // namespace render

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geo/RowSampler.h"
 #include "render/BitmapPixels.h"
 #include "render/MapView.h"
 
@@ -17,16 +18,10 @@ public:
     /// @param[in] image valid, of any size; its opacity does not count.
     explicit WorldPicture(const wxImage& image);
 
-    int Width() const { return m_width; }
-    int Height() const { return m_height; }
-
-    /// The pixel at a column and row; black outside the picture.
-    Argb At(int column, int row) const
+    /// Its pixels as cells of the globe; what lies just beyond them is black.
+    geo::WorldCells Cells() const
     {
-        const bool inside = column >= 0 && column < m_width && row >= 0 && row < m_height;
-        return inside ? m_pixels[static_cast<std::size_t>(row) * static_cast<std::size_t>(m_width) +
-                                 static_cast<std::size_t>(column)]
-                      : OpaquePixel(0, 0, 0);
+        return geo::WorldCells::Filling(m_pixels.data(), m_width, m_height, OpaquePixel(0, 0, 0));
     }
 
 private:
@@ -39,10 +34,10 @@ private:
 const WorldPicture& BuiltInWorld();
 
 /**
- * Paints one row of the base map: every pixel takes the nearest pixel of the world under it, truncated, without
- * interpolation. The centre and everything from the visible limit on are white.
+ * The rows of a base map: every pixel takes the nearest pixel of the world under it, truncated, without interpolation.
+ * The centre and everything from the visible limit on are white.
  *
- * @param[out] pixels one for each column of the map.
+ * @param[in] world must outlive the result.
  */
-void DrawBaseMapRow(const MapView& view, const WorldPicture& world, int row, std::span<Argb> pixels);
+geo::RowSampler BaseMapRows(const MapView& view, const WorldPicture& world);
 } // namespace render

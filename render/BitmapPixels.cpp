@@ -19,13 +19,16 @@ unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
     return static_cast<unsigned char>(alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha);
 }
 
-/// The surface behind a bitmap is made when it is first drawn on; only then does a lack of memory show.
-bool HasMemory(const wxBitmap& bitmap)
+std::unique_ptr<wxBitmap> NewBitmap(int side, int depth)
 {
-    cairo_t* const context = bitmap.CairoCreate();
-    const bool good = cairo_status(context) == CAIRO_STATUS_SUCCESS;
+    auto bitmap = std::make_unique<wxBitmap>(side, side, depth);
+    if (!bitmap->IsOk())
+        return nullptr;
+    // The surface behind a bitmap is made when it is first drawn on; only then does a lack of memory show.
+    cairo_t* const context = bitmap->CairoCreate();
+    const bool hasMemory = cairo_status(context) == CAIRO_STATUS_SUCCESS;
     cairo_destroy(context);
-    return good;
+    return hasMemory ? std::move(bitmap) : nullptr;
 }
 } // namespace
 
@@ -105,12 +108,17 @@ void BitmapPixels::WriteImageBack()
 
 std::unique_ptr<wxBitmap> NewWhiteBitmap(int side)
 {
-    auto bitmap = std::make_unique<wxBitmap>(side, side);
-    if (!bitmap->IsOk() || !HasMemory(*bitmap))
+    auto bitmap = NewBitmap(side, wxBITMAP_SCREEN_DEPTH);
+    if (!bitmap)
         return nullptr;
     const BitmapPixels pixels(*bitmap);
     for (int y = 0; y < side; ++y)
         std::ranges::fill(pixels.Row(y), kWhite);
     return bitmap;
+}
+
+std::unique_ptr<wxBitmap> NewOverlayBitmap(int side)
+{
+    return NewBitmap(side, 32);
 }
 } // namespace render

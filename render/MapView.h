@@ -2,6 +2,7 @@
 
 #include "config/Configuration.h"
 #include "geo/AzimuthalProjection.h"
+#include "geo/MapDisc.h"
 #include "geo/MapFrame.h"
 
 #include <cstdint>
@@ -21,6 +22,9 @@ struct MapView
 
     /// Whether a point at this distance from the centre is drawn: not the centre itself, nothing from the limit on.
     bool IsVisible(std::int64_t distance) const { return distance >= 1 && distance < visibleLimit; }
+
+    /// The pixels that show the earth.
+    geo::MapDisc Disc() const { return {projection, frame, visibleLimit}; }
 };
 
 namespace render

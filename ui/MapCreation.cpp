@@ -116,6 +116,7 @@ bool WxKavFrame::DrawBaseMaps()
 void WxKavFrame::ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& map, bool showProgress)
 {
     const int size = m_view->frame.mapSize;
+    const geo::RowSampler rows = render::BaseMapRows(*m_view, source);
     std::optional<wxProgressDialog> progress;
     if (showProgress && IsShown())
         progress.emplace("Kavdex", wxString(' ', 28) + "Creating Map" + wxString(' ', 28), size, this,
@@ -126,7 +127,7 @@ void WxKavFrame::ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& 
         {
             const render::BitmapPixels pixels(map);
             for (int row = first; row < end; ++row)
-                render::DrawBaseMapRow(*m_view, source, row, pixels.Row(row));
+                rows.Row(row, pixels.Row(row));
         }
         if (progress)
             progress->Update(end);

@@ -1,15 +1,111 @@
 #include "ui/WxKavFrame.h"
 
+#include "geo/SunCalc.h"
+#include "geo/Truncate.h"
+#include "render/Greyline.h"
+#include "ui/Ids.h"
+
+namespace
+{
+constexpr int kGreylinePeriodMs = 1000;
+constexpr int kPropagationPeriodMs = 60000;
+
+
+void FollowTimeMode(wxTimer& timer, int timeMode, int periodMs)
+{
+    if (timeMode == kRealTime)
+        timer.Start(periodMs);
+    else if (timeMode == kOnce)
+        timer.Stop();
+}
+
+SunCalc::Result SunAt(const UtcTime& time, const AzimuthalProjection& station)
+{
+    const double day = SunCalc::DayNumber(time.day, time.month + 1, time.year, time.hour, time.minute, time.second);
+    return SunCalc::Position(day, station.centreLonDeg, station.centreLatDeg);
+}
+
+wxString StatusOf(const UtcTime& time, const SunCalc::Result& sun)
+{
+    return wxString::Format("%04d-%02d-%02d %02d:%02d Z | SunAz %.3f | SunEl %.3f", time.year, time.month + 1, time.day,
+                            time.hour, time.minute, sun.azimuth, sun.elevation);
+}
+} // namespace
+
 void WxKavFrame::DrawOverlays()
 {
-    SetPropagationTools(false, m_settings->propagation.frequency, m_settings->propagation.parameter);
+    const int timeMode = m_settings->greyzone.timeMode;
+    if (m_settings->greyzone.show && (timeMode == kRealTime || timeMode == kOnce))
+    {
+        FollowTimeMode(m_greylineTimer, timeMode, kGreylinePeriodMs);
+        greylineDrawn = true;
+        DrawGreyline();
+    }
+
+    const PropagationSettings& propagation = m_settings->propagation;
+    if (propagation.show)
+    {
+        FollowTimeMode(m_propagationTimer, timeMode, kPropagationPeriodMs);
+        DrawPropagation(true);
+    }
+    else
+    {
+        m_propagationTimer.Stop();
+    }
+    SetPropagationTools(propagation.show, propagation.frequency, propagation.parameter);
 }
 
-void WxKavFrame::DrawGreyline() {}
-
-void WxKavFrame::DrawPropagation(bool) {}
-
-void WxKavFrame::OnGreylineTool(wxCommandEvent&)
+void WxKavFrame::DrawGreyline()
 {
+    if (!HasMap())
+        return;
+    const bool forced = greylineDrawn;
+    const GreyzoneSettings& greyzone = m_settings->greyzone;
+    const bool once = greyzone.timeMode == kOnce;
+    const UtcTime time = once ? greyzone.once : UtcNow();
+    const SunCalc::Result sun = SunAt(time, m_view->projection);
+    SetStatusText(StatusOf(time, sun), 1);
+    if (!forced && !m_toolBar->GetToolState(ui::kIdGreyline))
+        return; // a tick never shows what the user has switched off
+
+    const std::int64_t degree = geo::TruncateToInt64(sun.greenwichHourAngle);
+    if (!forced && !once && degree == m_hourAngleDegree)
+        return;
+    greylineDrawn = false;
+    m_canvas->showGreyline = false;
+    ShowStep("Drawing SunTerm...");
+    auto overlay = render::DrawGreyline(*m_view, greyzone, sun.SubSolarPoint());
+    if (!overlay)
+    {
+        ShowError("Error creating bitmap original function DrawSunTerm2");
+        return;
+    }
+    m_canvas->greylineBitmap = std::move(overlay);
+    m_canvas->showGreyline = true;
+    SetStatusText("", 0);
+    m_toolBar->EnableTool(ui::kIdGreyline, true);
+    m_toolBar->ToggleTool(ui::kIdGreyline, true);
     m_canvas->ShowPicture();
 }
+
+void WxKavFrame::OnGreylineTool(wxCommandEvent& event)
+{
+    const int timeMode = m_settings->greyzone.timeMode;
+    if (!event.IsChecked())
+    {
+        m_canvas->showGreyline = false;
+    }
+    else if (m_canvas->greylineBitmap)
+    {
+        m_canvas->showGreyline = true;
+    }
+    else if (timeMode == kRealTime || timeMode == kOnce)
+    {
+        FollowTimeMode(m_greylineTimer, timeMode, kGreylinePeriodMs);
+        greylineDrawn = true;
+        DrawGreyline();
+    }
+    m_canvas->ShowPicture();
+}
+
+void WxKavFrame::DrawPropagation(bool) {}

@@ -90,6 +90,10 @@ private:
     void DrawGreyline();
     void DrawPropagation(bool selectionChanged);
 
+    /// Forces the next greyline to be drawn whatever degree was remembered; drawing clears it.
+    bool greylineDrawn = false;
+    std::int64_t m_hourAngleDegree = 0; ///< the whole degree for which the greyline was last drawn in real time
+
     std::unique_ptr<Configuration> m_settings;
     wxTimer m_greylineTimer;
     wxTimer m_propagationTimer;

@@ -31,11 +31,12 @@ protected:
 
     Colours Paint(const render::WorldPicture& world, const MapView& view) const
     {
+        const geo::RowSampler sampler = render::BaseMapRows(view, world);
         Colours rows(static_cast<std::size_t>(view.frame.mapSize));
         for (std::size_t y = 0; y < rows.size(); ++y)
         {
             rows[y].resize(rows.size());
-            render::DrawBaseMapRow(view, world, static_cast<int>(y), rows[y]);
+            sampler.Row(static_cast<int>(y), rows[y]);
         }
         return rows;
     }
@@ -170,30 +171,19 @@ TEST_F(BaseMapTest, TakesPicturesOfAnySize)
     }
 }
 
-TEST(WorldPicture, IsBlackOutside)
-{
-    const render::WorldPicture world(NumberedWorld(4, 2));
-    EXPECT_EQ(world.At(3, 1), render::OpaquePixel(3, 0, 1));
-    for (const auto& [column, row] : {std::pair{4, 0}, {0, 2}, {-1, 0}, {0, -1}, {INT_MIN, INT_MIN}})
-        EXPECT_EQ(world.At(column, row), render::OpaquePixel(0, 0, 0));
-}
-
 TEST(WorldPicture, DoesNotLookAtOpacity)
 {
     wxImage image = NumberedWorld(4, 2);
     image.InitAlpha();
     image.SetAlpha(3, 1, 0);
-    EXPECT_EQ(render::WorldPicture(image).At(3, 1), render::OpaquePixel(3, 0, 1));
+    EXPECT_EQ(render::WorldPicture(image).Cells().Pixels()[7], render::OpaquePixel(3, 0, 1));
 }
 
 TEST(BuiltInWorld, IsTheRightWayRound)
 {
     const render::WorldPicture& world = render::BuiltInWorld();
-    ASSERT_EQ(world.Width(), 720);
-    ASSERT_EQ(world.Height(), 360);
-    const auto isSea = [&](double lat, double lon)
-    {
-        const Argb pixel = world.At(static_cast<int>((lon + 180) * 2), static_cast<int>((90 - lat) * 2));
+    const auto isSea = [&](double lat, double lon) {
+        const Argb pixel = world.Cells().At({lat / 57.2957795131, lon / 57.2957795131});
         return (pixel & 255) > ((pixel >> 16) & 255);
     };
     EXPECT_TRUE(isSea(0, -1));     // Gulf of Guinea

@@ -69,4 +69,11 @@ TEST(NewWhiteBitmap, IsWhiteAtOnce)
     ASSERT_TRUE(bitmap);
     EXPECT_EQ(DistinctColours(ColoursOf(*bitmap)), std::set<render::Argb>{render::kWhite});
 }
+
+TEST(NewBitmap, IsNoneWhereThereIsNoMemory)
+{
+    // No surface can be larger than 32767 pixels: it fails as for a lack of memory.
+    EXPECT_FALSE(render::NewWhiteBitmap(32768));
+    EXPECT_FALSE(render::NewOverlayBitmap(32768));
+}
 } // namespace
