@@ -1,7 +1,7 @@
 #include "render/Compass.h"
 
+#include "render/ChainStroker.h"
 #include "render/DiscDrawing.h"
-#include "render/SegmentBatch.h"
 #include "render/Style.h"
 
 namespace render
@@ -29,7 +29,7 @@ void DrawCompass(wxDC& dc, const MapView& view)
     DrawCircle(dc, disc, kCentreMarkRadius);
     DrawCircle(dc, disc, disc.radius);
     DrawCircle(dc, disc, disc.radius - tickLength);
-    SegmentBatch segment(dc);
+    ChainStroker segment(dc);
     for (int degree = 0; degree < 360; ++degree)
     {
         const CompassTick tick = CompassTickAt(disc, tickLength, degree);

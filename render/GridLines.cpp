@@ -1,12 +1,12 @@
 #include "render/GridLines.h"
 
-#include "render/SegmentBatch.h"
+#include "render/ChainStroker.h"
 
 namespace render
 {
 void DrawGridLines(wxDC& dc, const MapView& view, const GridSpec& grid)
 {
-    SegmentBatch segment(dc);
+    ChainStroker segment(dc);
     TraceGridLines(view, grid, segment);
 }
 } // namespace render

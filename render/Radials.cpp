@@ -1,7 +1,7 @@
 #include "render/Radials.h"
 
+#include "render/ChainStroker.h"
 #include "render/DiscGeometry.h"
-#include "render/SegmentBatch.h"
 
 #include <algorithm>
 #include <array>
@@ -18,7 +18,7 @@ void DrawRadials(wxDC& dc, const MapView& view, int every)
 {
     const DiscGeometry disc(view.frame);
     const geo::Pixel centre{disc.centre, disc.centre};
-    SegmentBatch segment(dc);
+    ChainStroker segment(dc);
     for (int degree = 0; degree < 360; degree += RadialStepDeg(every))
         segment(centre, disc.At(degree, disc.radius));
 }
