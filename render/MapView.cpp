@@ -3,6 +3,18 @@
 #include <algorithm>
 #include <limits>
 
+std::optional<geo::Pixel> MapView::VisiblePixel(double lonRad, double latRad) const
+{
+    constexpr int kFarthest = 1 << 20;
+    double east = 0.0;
+    double north = 0.0;
+    if (!IsVisible(projection.Forward(east, north, lonRad, latRad)))
+        return std::nullopt;
+    const geo::Pixel pixel = frame.MapToPixel(east, north);
+    const auto isNear = [](int coordinate) { return coordinate >= -kFarthest && coordinate <= kFarthest; };
+    return isNear(pixel.x) && isNear(pixel.y) ? std::optional(pixel) : std::nullopt;
+}
+
 namespace render
 {
 std::int64_t MapRadius(long zoomKm)

@@ -6,6 +6,7 @@
 #include "geo/MapFrame.h"
 
 #include <cstdint>
+#include <optional>
 
 /**
  * How one map shows the world: where its centre lies, how metres become pixels and how far it reaches.
@@ -25,6 +26,16 @@ struct MapView
 
     /// The pixels that show the earth.
     geo::MapDisc Disc() const { return {projection, frame, visibleLimit}; }
+
+    /**
+     * The pixel of a place given in radians; none where the place is not visible. The pixel may lie outside the
+     * picture.
+     *
+     * No place on earth lies farther than 2^20 pixels from the station on any map. What the projection puts beyond that
+     * is arbitrary (it has no value for the antipode) and counts as not visible, so that drawings can calculate with
+     * pixels without running over.
+     */
+    std::optional<geo::Pixel> VisiblePixel(double lonRad, double latRad) const;
 };
 
 namespace render

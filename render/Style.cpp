@@ -13,4 +13,11 @@ wxFont FontFromSetting(const wxString& description)
     wxFont font;
     return font.SetNativeFontInfoUserDesc(description) ? font : *wxNORMAL_FONT;
 }
+
+void SetTextStyle(wxDC& dc, const wxString& font, long colour)
+{
+    dc.SetFont(FontFromSetting(font));
+    dc.SetTextForeground(ColourFromSetting(colour));
+    dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
+}
 } // namespace render

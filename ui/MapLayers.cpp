@@ -1,12 +1,165 @@
 #include "ui/WxKavFrame.h"
 
 #include "render/Blend.h"
+#include "render/BorderLines.h"
+#include "render/Compass.h"
+#include "render/GridLabels.h"
+#include "render/PlottedSquares.h"
+#include "render/Radials.h"
+#include "render/RangeCircles.h"
+#include "render/Style.h"
+#include "render/TextFile.h"
+#include "render/TextLabels.h"
 
 #include <wx/log.h>
 
-void WxKavFrame::DrawLayers() {}
+#include <algorithm>
 
-wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, int alpha, int lineWidth)
+namespace
+{
+/// A pen wider than the largest map is no wider.
+int PenWidth(long setting)
+{
+    return static_cast<int>(std::clamp(setting, 0L, render::kMaxMapSize));
+}
+} // namespace
+
+void WxKavFrame::DrawLayers()
+{
+    const Configuration& settings = *m_settings;
+    DrawGrid(settings.meridians, render::kMeridianGrid);
+    DrawGrid(settings.fields, render::kFieldGrid);
+    if (settings.fields.show && settings.fields.text.show)
+        DrawFieldLabels();
+    DrawGrid(settings.squares, render::kSquareGrid);
+    if (settings.squares.show && settings.squares.text.show)
+        DrawSquareLabels();
+    if (settings.compass.show)
+        DrawCompass();
+    if (settings.compass.show && settings.compass.text.show)
+        DrawCompassText();
+    for (const BorderSlot& slot : settings.borders)
+        if (slot.show)
+            DrawBorderLines(slot);
+    if (settings.radials.show)
+        DrawRadials();
+    for (const TextSlot& slot : settings.texts)
+        if (slot.show)
+            DrawTextLabels(slot);
+    if (settings.rangeCircles.show)
+        DrawRangeCircles();
+    for (const PlotSquaresSlot& slot : settings.plotSquares)
+        if (slot.show)
+            DrawPlottedSquares(slot);
+}
+
+void WxKavFrame::DrawGrid(const LineStyle& style, const render::GridSpec& grid)
+{
+    if (style.show)
+        DrawGridLines(style.alpha, ColourFromSetting(style.colour), PenWidth(style.lineWidth), grid.lonFrom, grid.lonTo,
+                      grid.lonStep, grid.latFrom, grid.latTo, grid.latStep);
+}
+
+void WxKavFrame::DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
+                               int latFrom, int latTo, int latStep)
+{
+    if (!HasMap())
+        return;
+    DrawLayer("Drawing Lines...", colour, std::clamp(alpha, 0L, 255L), lineWidth,
+              [&](wxDC& dc) {
+                  render::DrawGridLines(dc, *m_view, {lonFrom, lonTo, lonStep, latFrom, latTo, latStep});
+              });
+}
+
+void WxKavFrame::DrawFieldLabels()
+{
+    DrawTexts("Drawing Field Text...", m_settings->fields.text, render::DrawFieldLabels);
+}
+
+void WxKavFrame::DrawSquareLabels()
+{
+    DrawTexts("Drawing Square Text...", m_settings->squares.text, render::DrawSquareLabels);
+}
+
+void WxKavFrame::DrawCompass()
+{
+    if (HasMapOrError("Bitmap Error in function Compass"))
+        DrawLines("Drawing Compass...", m_settings->compass, [&](wxDC& dc) { render::DrawCompass(dc, *m_view); });
+}
+
+void WxKavFrame::DrawCompassText()
+{
+    DrawTexts("Drawing Compass Text...", m_settings->compass.text, render::DrawCompassText);
+}
+
+void WxKavFrame::DrawBorderLines(const BorderSlot& slot)
+{
+    DrawLines("Plotting Lines...", slot, [&](wxDC& dc) { render::DrawBorderLines(dc, *m_view, slot.file); });
+}
+
+void WxKavFrame::DrawRadials()
+{
+    const RadialsSettings& radials = m_settings->radials;
+    DrawLines("Drawing Radials...", radials, [&](wxDC& dc) { render::DrawRadials(dc, *m_view, radials.every); });
+}
+
+void WxKavFrame::DrawTextLabels(const TextSlot& slot)
+{
+    const auto text = HasMap() ? render::ReadLabelFile(slot.file) : std::nullopt;
+    if (text)
+        DrawLayer("Plotting Text...", ColourFromSetting(slot.colour), slot.alpha, 1,
+                  [&](wxDC& dc) { render::DrawTextLabels(dc, *m_view, *text, slot); });
+}
+
+void WxKavFrame::DrawRangeCircles()
+{
+    if (!HasMapOrError("Bitmap Error in function RangeCircles"))
+        return;
+    RangeCirclesSettings& circles = m_settings->rangeCircles;
+    circles.distanceKm = render::RangeCircleStepKm(circles.distanceKm);
+    DrawLines("Drawing Range Circles...", circles,
+              [&](wxDC& dc) { render::DrawRangeCircles(dc, *m_view, circles, m_settings->compass.text.font); });
+}
+
+void WxKavFrame::DrawPlottedSquares(const PlotSquaresSlot& slot)
+{
+    const auto text = HasMap() ? render::ReadTextFile(slot.file) : std::nullopt;
+    if (text)
+        DrawLayer("Hatching Squares...", ColourFromSetting(slot.borderColour), slot.alpha, 1,
+                  [&](wxDC& dc) { render::DrawPlottedSquares(dc, *m_view, *text, slot); });
+}
+
+bool WxKavFrame::HasMapOrError(const wxString& text)
+{
+    if (!HasMap())
+        ShowError(text);
+    return HasMap();
+}
+
+void WxKavFrame::DrawLines(const wxString& statusText, const LineStyle& style, const Drawing& draw)
+{
+    if (HasMap())
+        DrawLayer(statusText, ColourFromSetting(style.colour), style.alpha, PenWidth(style.lineWidth), draw);
+}
+
+void WxKavFrame::DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw)
+{
+    if (HasMap())
+        DrawLayer(statusText, ColourFromSetting(style.colour), style.alpha, 1,
+                  [&](wxDC& dc) { draw(dc, *m_view, style); });
+}
+
+void WxKavFrame::DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
+                           const Drawing& draw)
+{
+    if (wxDC* const dc = BeginLayer(statusText, colour, alpha, lineWidth))
+    {
+        draw(*dc);
+        EndLayer(alpha);
+    }
+}
+
+wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth)
 {
     ShowStep(statusText);
     if (static_cast<std::uint8_t>(alpha) == 0)
@@ -21,7 +174,7 @@ wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour,
     return &m_layer->Begin(colour, lineWidth);
 }
 
-void WxKavFrame::EndLayer(int alpha)
+void WxKavFrame::EndLayer(long alpha)
 {
     const auto opacity = static_cast<std::uint8_t>(alpha);
     if (!m_layer->BlendOnto(*m_canvas->mapBitmap, opacity))

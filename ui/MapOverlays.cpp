@@ -10,7 +10,6 @@ namespace
 constexpr int kGreylinePeriodMs = 1000;
 constexpr int kPropagationPeriodMs = 60000;
 
-
 void FollowTimeMode(wxTimer& timer, int timeMode, int periodMs)
 {
     if (timeMode == kRealTime)
@@ -60,6 +59,8 @@ void WxKavFrame::DrawGreyline()
     if (!HasMap())
         return;
     const bool forced = greylineDrawn;
+    if (forced)
+        m_hourAngleDegree.reset();
     const GreyzoneSettings& greyzone = m_settings->greyzone;
     const bool once = greyzone.timeMode == kOnce;
     const UtcTime time = once ? greyzone.once : UtcNow();
@@ -67,10 +68,9 @@ void WxKavFrame::DrawGreyline()
     SetStatusText(StatusOf(time, sun), 1);
     if (!forced && !m_toolBar->GetToolState(ui::kIdGreyline))
         return; // a tick never shows what the user has switched off
-
-    const std::int64_t degree = geo::TruncateToInt64(sun.greenwichHourAngle);
-    if (!forced && !once && degree == m_hourAngleDegree)
+    if (!once && !RememberHourAngle(geo::TruncateToInt64(sun.greenwichHourAngle)))
         return;
+
     greylineDrawn = false;
     m_canvas->showGreyline = false;
     ShowStep("Drawing SunTerm...");
@@ -86,6 +86,11 @@ void WxKavFrame::DrawGreyline()
     m_toolBar->EnableTool(ui::kIdGreyline, true);
     m_toolBar->ToggleTool(ui::kIdGreyline, true);
     m_canvas->ShowPicture();
+}
+
+bool WxKavFrame::RememberHourAngle(std::int64_t degree)
+{
+    return std::exchange(m_hourAngleDegree, degree) != degree;
 }
 
 void WxKavFrame::OnGreylineTool(wxCommandEvent& event)

@@ -2,6 +2,7 @@
 
 #include "config/Configuration.h"
 #include "render/BaseMap.h"
+#include "render/GridLines.h"
 #include "render/Layer.h"
 #include "render/MapView.h"
 #include "ui/GUIFrame.h"
@@ -49,6 +50,19 @@ public:
      */
     void BlendLayer(wxImage layerImage, wxImage mapImage, int alpha);
 
+    // The layers of a map. Without a map those that say so show an error, the others do nothing.
+    void DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
+                       int latFrom, int latTo, int latStep);
+    void DrawFieldLabels();
+    void DrawSquareLabels();
+    void DrawCompass(); ///< shows an error
+    void DrawCompassText();
+    void DrawBorderLines(const BorderSlot& slot);
+    void DrawRadials();
+    void DrawTextLabels(const TextSlot& slot);
+    void DrawRangeCircles(); ///< shows an error; brings the distance in the settings to 100 km at least
+    void DrawPlottedSquares(const PlotSquaresSlot& slot);
+
     /// Enables or disables the tools for frequency and parameter and toggles those that are chosen; an index that is no
     /// tool's chooses none.
     void SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex);
@@ -82,17 +96,25 @@ private:
     void DrawOverlays();
     void FinishCreation();
 
-    // One layer: named in the status bar, drawn on a white sheet, blended.
-    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, int alpha, int lineWidth);
-    void EndLayer(int alpha);
+    // One layer: named in the status bar, drawn on a white sheet, blended. Of an opacity the low eight bits count.
+    using Drawing = std::function<void(wxDC& dc)>;
+    using TextDrawing = std::function<void(wxDC& dc, const MapView& view, const TextStyle& style)>;
+    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth);
+    void EndLayer(long alpha);
+    void DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth, const Drawing& draw);
+    void DrawLines(const wxString& statusText, const LineStyle& style, const Drawing& draw);
+    void DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw);
+    void DrawGrid(const LineStyle& style, const render::GridSpec& grid);
+    bool HasMapOrError(const wxString& text);
 
     // The overlays that follow the clock.
     void DrawGreyline();
+    bool RememberHourAngle(std::int64_t degree); ///< whether it differs from the one before
     void DrawPropagation(bool selectionChanged);
 
     /// Forces the next greyline to be drawn whatever degree was remembered; drawing clears it.
     bool greylineDrawn = false;
-    std::int64_t m_hourAngleDegree = 0; ///< the whole degree for which the greyline was last drawn in real time
+    std::optional<std::int64_t> m_hourAngleDegree; ///< for which the greyline was last drawn in real time
 
     std::unique_ptr<Configuration> m_settings;
     wxTimer m_greylineTimer;

@@ -182,7 +182,8 @@ TEST(WorldPicture, DoesNotLookAtOpacity)
 TEST(BuiltInWorld, IsTheRightWayRound)
 {
     const render::WorldPicture& world = render::BuiltInWorld();
-    const auto isSea = [&](double lat, double lon) {
+    const auto isSea = [&](double lat, double lon)
+    {
         const Argb pixel = world.Cells().At({lat / 57.2957795131, lon / 57.2957795131});
         return (pixel & 255) > ((pixel >> 16) & 255);
     };

@@ -1,0 +1,95 @@
+#include "render/TextLabels.h"
+
+#include "geo/Angles.h"
+#include "render/LabelBox.h"
+#include "render/Occupancy.h"
+#include "render/Style.h"
+#include "render/TextFile.h"
+
+#include <wx/crt.h>
+#include <wx/log.h>
+#include <wx/msgdlg.h>
+#include <wx/tokenzr.h>
+
+namespace render
+{
+namespace
+{
+/// More does not fit on the largest map. It keeps a damaged file from taking minutes.
+constexpr std::size_t kMaxTextLength = 1000;
+
+constexpr int kAlignments = 5;
+
+/// Draws the labels of one file.
+class LabelWriter
+{
+public:
+    LabelWriter(wxDC& dc, const MapView& view, const TextSlot& style)
+        : m_dc(dc),
+          m_view(view),
+          m_alignment(style.align >= 0 && style.align < 2 * kAlignments ? style.align : 0),
+          m_occupancy(style.avoidCollisions ? std::optional<Occupancy>(view.frame.mapSize) : std::nullopt)
+    {
+        SetTextStyle(dc, style.font, style.colour);
+        dc.SetPen(wxPen(ColourFromSetting(style.colour)));
+        dc.SetBrush(wxBrush(ColourFromSetting(style.colour)));
+    }
+
+    void Write(const TextLabel& label)
+    {
+        const auto place = m_view.VisiblePixel(label.lon * geo::kRadPerDeg, label.lat * geo::kRadPerDeg);
+        if (!place)
+            return;
+        const wxSize extent = m_dc.GetTextExtent(label.text);
+        const wxRect box = LabelBox(*place, extent, static_cast<Alignment>(m_alignment % kAlignments));
+        if (m_occupancy && !m_occupancy->Take(box))
+            return;
+        DrawLabel(m_dc, label.text, box);
+        if (m_alignment >= kAlignments)
+            m_dc.DrawRectangle(place->x - 2, place->y - 2, 4, 4);
+    }
+
+private:
+    wxDC& m_dc;
+    const MapView& m_view;
+    int m_alignment; ///< 0..9, from 5 on with a dot
+    std::optional<Occupancy> m_occupancy;
+};
+} // namespace
+
+std::optional<TextLabel> ParseTextLabel(std::wstring_view line)
+{
+    wxStringTokenizer fields(wxString(line.data(), line.size()), ";", wxTOKEN_STRTOK);
+    fields.GetNextToken();
+    const wxString text = fields.GetNextToken().Left(kMaxTextLength);
+    if (fields.GetNextToken() == "Country")
+        return std::nullopt;
+    fields.GetNextToken();
+    const double lat = wxAtof(fields.GetNextToken());
+    const double lon = wxAtof(fields.GetNextToken());
+    return TextLabel{text, lat, lon};
+}
+
+std::optional<std::wstring> ReadLabelFile(const wxString& file)
+{
+    const auto text = [&]
+    {
+        const wxLogNull theMessageBoxSaysItAll;
+        return ReadTextFile(file);
+    }();
+    if (!text)
+        wxMessageBox("Error opening file " + file, "Error", wxOK | wxICON_ERROR);
+    return text;
+}
+
+void DrawTextLabels(wxDC& dc, const MapView& view, std::wstring_view text, const TextSlot& style)
+{
+    LabelWriter writer(dc, view, style);
+    ForEachLine(text,
+                [&](std::wstring_view line)
+                {
+                    if (const auto label = ParseTextLabel(line))
+                        writer.Write(*label);
+                });
+}
+} // namespace render
