@@ -1,5 +1,7 @@
 #include "render/BitmapPixels.h"
 
+#include "config/QuietToolkit.h"
+
 #include <cairo.h>
 #include <wx/image.h>
 
@@ -25,6 +27,7 @@ std::unique_ptr<wxBitmap> NewBitmap(int side, int depth)
     if (!bitmap->IsOk())
         return nullptr;
     // The surface behind a bitmap is made when it is first drawn on; only then does a lack of memory show.
+    const QuietToolkit quiet;
     cairo_t* const context = bitmap->CairoCreate();
     const bool hasMemory = cairo_status(context) == CAIRO_STATUS_SUCCESS;
     cairo_destroy(context);

@@ -1,7 +1,6 @@
 #include "render/Greyline.h"
 
 #include "geo/Angles.h"
-#include "geo/Truncate.h"
 #include "render/BitmapPixels.h"
 #include "render/Layer.h"
 
@@ -54,8 +53,8 @@ void DrawSun(wxBitmap& overlay, geo::Pixel at)
     for (int degrees = 0; degrees < 360; degrees += 45)
     {
         const double angle = degrees * geo::kRadPerDeg;
-        dc.DrawLine(at.x, at.y, geo::TruncateToInt32(at.x + kRayLength * std::sin(angle)),
-                    geo::TruncateToInt32(at.y - kRayLength * std::cos(angle)));
+        dc.DrawLine(at.x, at.y, at.x + static_cast<int>(std::lround(kRayLength * std::sin(angle))),
+                    at.y - static_cast<int>(std::lround(kRayLength * std::cos(angle))));
     }
     dc.DrawEllipse(at.x - 4, at.y - 4, 8, 8);
 }

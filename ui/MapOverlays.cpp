@@ -5,6 +5,10 @@
 #include "render/Greyline.h"
 #include "ui/Ids.h"
 
+#include <algorithm>
+#include <limits>
+#include <utility>
+
 namespace
 {
 constexpr int kGreylinePeriodMs = 1000;
@@ -18,15 +22,21 @@ void FollowTimeMode(wxTimer& timer, int timeMode, int periodMs)
         timer.Stop();
 }
 
+/// The month counted from 1; settings may hold any number.
+int MonthOf(const UtcTime& time)
+{
+    return std::min(time.month, std::numeric_limits<int>::max() - 1) + 1;
+}
+
 SunCalc::Result SunAt(const UtcTime& time, const AzimuthalProjection& station)
 {
-    const double day = SunCalc::DayNumber(time.day, time.month + 1, time.year, time.hour, time.minute, time.second);
+    const double day = SunCalc::DayNumber(time.day, MonthOf(time), time.year, time.hour, time.minute, time.second);
     return SunCalc::Position(day, station.centreLonDeg, station.centreLatDeg);
 }
 
 wxString StatusOf(const UtcTime& time, const SunCalc::Result& sun)
 {
-    return wxString::Format("%04d-%02d-%02d %02d:%02d Z | SunAz %.3f | SunEl %.3f", time.year, time.month + 1, time.day,
+    return wxString::Format("%04d-%02d-%02d %02d:%02d Z | SunAz %.3f | SunEl %.3f", time.year, MonthOf(time), time.day,
                             time.hour, time.minute, sun.azimuth, sun.elevation);
 }
 } // namespace
