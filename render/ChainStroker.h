@@ -15,8 +15,9 @@ namespace render
  * time, which is much faster.
  *
  * Strokes without smoothing close gaps of one pixel between parts of one path that lie side by side. Therefore a path
- * is only made of segments that join and never turn back in y: there each row of pixels is crossed once. Segments that
- * cannot touch the picture are left out.
+ * is only made of segments that join and never turn back in y: there each row of pixels is crossed once. (Pens up to 8
+ * pixels wide; with wider ones a pixel on the outside of a bend may be missing.) Segments that cannot touch the picture
+ * are left out.
  *
  * The last segments reach the picture when this object goes.
  */

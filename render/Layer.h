@@ -27,8 +27,10 @@ public:
     /**
      * Starts a layer on the white sheet.
      *
-     * @return a drawing context with a solid pen of the colour and width and a transparent brush. Shapes are drawn
-     *         without smoothing, so that they leave exactly their own colour; texts are transparent and smoothed.
+     * @return a drawing context with a solid pen of the colour and width, a transparent brush and texts on a
+     * transparent ground. Shapes and texts are drawn without smoothing, so that they leave exactly their own colour:
+     * what is mixed with the white of the sheet is blended as a pale fringe, which on dark parts of a map makes dark
+     *         texts unreadable.
      */
     wxDC& Begin(const wxColour& colour, int lineWidth);
 
@@ -48,6 +50,6 @@ private:
     wxMemoryDC m_dc;
 };
 
-/// A drawing context for shapes without smoothing, on a bitmap.
+/// Makes a drawing context on a bitmap draw shapes and texts without smoothing.
 void SwitchSmoothingOff(wxDC& dc);
 } // namespace render

@@ -5,10 +5,20 @@
 #include <wx/convauto.h>
 #include <wx/file.h>
 
+#include <algorithm>
+
 namespace render
 {
 namespace
 {
+constexpr wchar_t kReplacement = L'\xFFFD';
+
+/// Halves of surrogate pairs, and what lies beyond the last character: damaged files may hold them, texts must not.
+bool IsNoCharacter(wchar_t c)
+{
+    return (c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF || c < 0;
+}
+
 std::optional<std::wstring> Decode(const wxMBConv& encoding, std::string_view bytes)
 {
     // Never longer than the bytes.
@@ -17,6 +27,7 @@ std::optional<std::wstring> Decode(const wxMBConv& encoding, std::string_view by
     if (length == wxCONV_FAILED)
         return std::nullopt;
     text.resize(length);
+    std::ranges::replace_if(text, IsNoCharacter, kReplacement);
     return text;
 }
 

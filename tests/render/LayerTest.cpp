@@ -29,6 +29,19 @@ TEST(Layer, DrawsShapesInExactlyTheirColour)
     EXPECT_EQ(DistinctColours(ColoursOf(*map)), (std::set<render::Argb>{render::kWhite, blended}));
 }
 
+TEST(Layer, DrawsTextsInExactlyTheirColour)
+{
+    const auto map = render::NewWhiteBitmap(120);
+    render::Layer layer(120);
+    wxDC& dc = layer.Begin(*wxBLACK, 1);
+    dc.SetTextForeground(wxColour(10, 20, 30));
+    dc.DrawText("JO65", 5, 5);
+    dc.DrawRotatedText("12500", 30, 90, 33);
+    layer.BlendOnto(*map, 255);
+    const render::Argb blended = render::OpaquePixel(9, 19, 29);
+    EXPECT_EQ(DistinctColours(ColoursOf(*map)), (std::set<render::Argb>{render::kWhite, blended}));
+}
+
 TEST(Layer, LeavesCirclesUnfilled)
 {
     const auto map = render::NewWhiteBitmap(60);
