@@ -1,6 +1,7 @@
 #include "render/BitmapPixels.h"
 
 #include "config/QuietToolkit.h"
+#include "render/HugePages.h"
 
 #include <cairo.h>
 #include <wx/image.h>
@@ -21,6 +22,14 @@ unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
     return static_cast<unsigned char>(alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha);
 }
 
+void PreferHugePagesOf(cairo_surface_t* surface)
+{
+    if (cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE)
+        PreferHugePages(cairo_image_surface_get_data(surface),
+                        static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) *
+                            static_cast<std::size_t>(cairo_image_surface_get_height(surface)));
+}
+
 std::unique_ptr<wxBitmap> NewBitmap(int side, int depth)
 {
     auto bitmap = std::make_unique<wxBitmap>(side, side, depth);
@@ -30,6 +39,8 @@ std::unique_ptr<wxBitmap> NewBitmap(int side, int depth)
     const QuietToolkit quiet;
     cairo_t* const context = bitmap->CairoCreate();
     const bool hasMemory = cairo_status(context) == CAIRO_STATUS_SUCCESS;
+    if (hasMemory)
+        PreferHugePagesOf(cairo_get_target(context));
     cairo_destroy(context);
     return hasMemory ? std::move(bitmap) : nullptr;
 }
@@ -118,6 +129,27 @@ std::unique_ptr<wxBitmap> NewWhiteBitmap(int side)
     for (int y = 0; y < side; ++y)
         std::ranges::fill(pixels.Row(y), kWhite);
     return bitmap;
+}
+
+wxImage ImageOf(wxBitmap& bitmap)
+{
+    if (!BitmapPixels::inPlace)
+        return bitmap.ConvertToImage();
+    const BitmapPixels pixels(bitmap);
+    wxImage image(pixels.Width(), pixels.Height(), false);
+    if (!image.IsOk())
+        return image;
+    unsigned char* rgb = image.GetData();
+    PreferHugePages(rgb, 3 * static_cast<std::size_t>(pixels.Width()) * static_cast<std::size_t>(pixels.Height()));
+    for (int y = 0; y < pixels.Height(); ++y)
+        for (const Argb pixel : pixels.Row(y))
+        {
+            rgb[0] = static_cast<unsigned char>(Channel(pixel, 16));
+            rgb[1] = static_cast<unsigned char>(Channel(pixel, 8));
+            rgb[2] = static_cast<unsigned char>(Channel(pixel, 0));
+            rgb += 3;
+        }
+    return image;
 }
 
 std::unique_ptr<wxBitmap> NewOverlayBitmap(int side)

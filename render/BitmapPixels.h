@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/bitmap.h>
+#include <wx/image.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -72,6 +73,9 @@ private:
     std::size_t m_stride = 0; ///< pixels from row to row
     std::vector<Argb> m_copy;
 };
+
+/// An opaque bitmap as an image; an invalid image when there is not enough memory for it.
+wxImage ImageOf(wxBitmap& bitmap);
 
 /// A white bitmap of a map's side at screen depth; none when there is not enough memory for it.
 std::unique_ptr<wxBitmap> NewWhiteBitmap(int side);

@@ -8,6 +8,22 @@ namespace
 {
 constexpr Argb kColourBits = 0xFFFFFF;
 
+/// Most of a layer is white: it is passed over so many pixels at a time.
+constexpr std::size_t kBlock = 32;
+
+bool IsWhite(Argb pixel)
+{
+    return (pixel & kColourBits) == kColourBits;
+}
+
+bool IsBlockWhite(const Argb* pixels)
+{
+    Argb common = kColourBits;
+    for (std::size_t i = 0; i < kBlock; ++i)
+        common &= pixels[i];
+    return IsWhite(common);
+}
+
 Argb BlendPixel(Argb map, Argb layer, unsigned alpha)
 {
     const auto channel = [=](int shift)
@@ -33,18 +49,25 @@ void BlendLayer(std::span<const std::uint8_t> layer, std::span<std::uint8_t> map
 
 void BlendAndWhiten(const BitmapPixels& layer, const BitmapPixels& map, std::uint8_t alpha)
 {
+    const auto width = static_cast<std::size_t>(layer.Width());
     for (int y = 0; y < layer.Height(); ++y)
     {
         const std::span<Argb> drawn = layer.Row(y);
         const std::span<Argb> under = map.Row(y);
         const bool inner = alpha != 0 && y > 0 && y < layer.Height() - 1;
-        for (std::size_t x = 0; x < drawn.size(); ++x)
+        for (std::size_t block = 0; block < width; block += kBlock)
         {
-            if ((drawn[x] & kColourBits) == kColourBits)
+            const std::size_t end = std::min(block + kBlock, width);
+            if (end - block == kBlock && IsBlockWhite(&drawn[block]))
                 continue;
-            if (inner && x > 0 && x < drawn.size() - 1)
-                under[x] = BlendPixel(under[x], drawn[x], alpha);
-            drawn[x] = kWhite;
+            for (std::size_t x = block; x < end; ++x)
+            {
+                if (IsWhite(drawn[x]))
+                    continue;
+                if (inner && x > 0 && x < width - 1)
+                    under[x] = BlendPixel(under[x], drawn[x], alpha);
+                drawn[x] = kWhite;
+            }
         }
     }
 }

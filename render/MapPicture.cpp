@@ -1,5 +1,7 @@
 #include "render/MapPicture.h"
 
+#include "render/BitmapPixels.h"
+
 #include <wx/dcmemory.h>
 
 namespace
@@ -27,13 +29,15 @@ void MapPicture::Draw(wxDC& dc) const
     DrawIfValid(dc, propagationBitmap, showPropagation);
 }
 
-wxBitmap MapPicture::Compose() const
+wxImage MapPicture::Compose() const
 {
-    wxBitmap composed(mapBitmap->GetWidth(), mapBitmap->GetHeight());
-    wxMemoryDC dc(composed);
-    dc.SetBackground(*wxWHITE_BRUSH);
-    dc.Clear();
+    if (mapReady && !showGreyline && !showPropagation)
+        return render::ImageOf(*mapBitmap);
+    const auto composed = render::NewWhiteBitmap(mapBitmap->GetWidth());
+    if (!composed)
+        return {};
+    wxMemoryDC dc(*composed);
     Draw(dc);
     dc.SelectObject(wxNullBitmap);
-    return composed;
+    return render::ImageOf(*composed);
 }

@@ -2,6 +2,7 @@
 
 #include <wx/bitmap.h>
 #include <wx/dc.h>
+#include <wx/image.h>
 
 #include <memory>
 
@@ -18,8 +19,9 @@ struct MapPicture
     /// Draws what is to be seen at (0, 0): the map, over it the greyline, over that the propagation overlay.
     void Draw(wxDC& dc) const;
 
-    /// What Draw() shows, as a bitmap of its own. @pre there is a map bitmap.
-    wxBitmap Compose() const;
+    /// What Draw() shows, as an image; an invalid one when there is not enough memory for it.
+    /// @pre there is a map bitmap.
+    wxImage Compose() const;
 
     std::unique_ptr<wxBitmap> mapBitmap;
     std::unique_ptr<wxBitmap> greylineBitmap;

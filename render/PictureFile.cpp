@@ -52,6 +52,11 @@ std::optional<wxBitmapType> PictureTypeOf(const wxString& path)
 
 bool SavePicture(wxImage picture, const wxString& path)
 {
+    if (!picture.IsOk())
+    {
+        wxLogError("Not enough memory to write the picture %s", path);
+        return false;
+    }
     picture.SetOption(wxIMAGE_OPTION_QUALITY, 90);
     // Written beside the target and renamed, so that a failure leaves an older picture alone.
     const wxString beside = wxFileName::CreateTempFileName(path);

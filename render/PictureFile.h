@@ -17,6 +17,7 @@ std::optional<wxBitmapType> PictureTypeOf(const wxString& path);
  * It appears whole or not at all: a file that was there is replaced only by a complete one. Failures are reported by
  * the toolkit's log.
  *
+ * @param[in] picture an invalid one stands for a lack of memory.
  * @pre PictureTypeOf(path) has a value.
  * @return whether it was written.
  */

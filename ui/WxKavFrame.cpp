@@ -127,7 +127,7 @@ void WxKavFrame::OnSaveImage(wxCommandEvent&)
         return;
     const wxString path = dialog.GetPath();
     if (render::PictureTypeOf(path))
-        render::SavePicture(m_canvas->Compose().ConvertToImage(), path);
+        render::SavePicture(m_canvas->Compose(), path);
     else
         ShowError("Couldn't save " + path);
 }

@@ -29,7 +29,7 @@ MapPicture BluePictureWithOverlays()
 
 render::Argb Composed(const MapPicture& picture)
 {
-    wxBitmap composed = picture.Compose();
+    wxBitmap composed(picture.Compose());
     return ColoursOf(composed)[3][3];
 }
 

@@ -199,9 +199,9 @@ TEST_F(GreylineToolTest, TakesTimesThatDoNotExist)
 TEST_F(GreylineToolTest, IsSavedAsItIsShown)
 {
     Create();
-    wxImage with = frame->Picture().Compose().ConvertToImage();
+    wxImage with = frame->Picture().Compose();
     Toggle(false);
-    wxImage without = frame->Picture().Compose().ConvertToImage();
+    wxImage without = frame->Picture().Compose();
     EXPECT_NE(0, std::memcmp(with.GetData(), without.GetData(), 3 * 200 * 200));
 }
 
