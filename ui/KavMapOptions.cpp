@@ -1,0 +1,185 @@
+#include "ui/KavMapOptions.h"
+
+#include "config/SettingsFile.h"
+#include "ui/SquaresPreview.h"
+
+#include <wx/filedlg.h>
+#include <wx/filename.h>
+
+#include <algorithm>
+
+namespace
+{
+constexpr const char* kIniFiles = "INI files (*.ini)|*.ini";
+}
+
+KavMapOptions::KavMapOptions(wxWindow* parent, Configuration& settings)
+    : Options(parent),
+      m_settings(settings),
+      m_scales(m_voacapPage.appearance),
+      m_latitude(m_homePage.latitude, 90),
+      m_longitude(m_homePage.longitude, 180),
+      m_valuesAtOpening(CurrentValues())
+{
+    m_settings.resetOverlays = false;
+    BindSettingsPage();
+    BindFilePages();
+    BindPlotSquaresPage();
+    BindGraylinePage();
+    BindVoacapMainPage();
+    BindVoacapAppearancePage();
+    BindVoacapAntennaPage();
+    BindTimePage();
+    BindHomePage();
+    TransferDataToWindow();
+    // Shown, the toolkit would transfer once more.
+    Bind(wxEVT_INIT_DIALOG, [](wxInitDialogEvent&) {});
+}
+
+bool KavMapOptions::TransferDataToWindow()
+{
+    m_bindings.TransferToWindow();
+    m_latitude.FillParts();
+    m_longitude.FillParts();
+    ShowZoomOnSlider();
+    ShowSquaresPreviews();
+    return true;
+}
+
+bool KavMapOptions::TransferDataFromWindow()
+{
+    m_bindings.TransferFromWindow();
+    return true;
+}
+
+void KavMapOptions::OnOk(wxCommandEvent&)
+{
+    TransferDataFromWindow();
+    m_settings.resetOverlays = CurrentValues() != m_valuesAtOpening;
+    m_settings.WriteAll();
+    m_settings.Flush();
+    EndDialog(wxID_OK);
+}
+
+void KavMapOptions::LoadSettingsFile(wxCommandEvent&)
+{
+    wxFileDialog dialog(this, "Choose a configuration file", "", "", kIniFiles,
+                        wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_CHANGE_DIR);
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    m_settings.ReadAllFrom(*OpenSettingsFile(dialog.GetPath()));
+    TransferDataToWindow();
+    m_settings.lastIniDirectory = wxFileName(dialog.GetPath()).GetPath();
+}
+
+void KavMapOptions::SaveSettingsFile(wxCommandEvent&)
+{
+    wxFileDialog dialog(this, "Save a configuration file", m_settings.lastIniDirectory, "", kIniFiles,
+                        wxFD_SAVE | wxFD_OVERWRITE_PROMPT | wxFD_CHANGE_DIR);
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    const auto file = OpenSettingsFile(dialog.GetPath());
+    TransferDataFromWindow();
+    m_settings.WriteAllTo(*file);
+    // Only now: the file carries the directory that was remembered before.
+    m_settings.lastIniDirectory = wxFileName(dialog.GetPath()).GetPath();
+}
+
+void KavMapOptions::OnZoomSlider(wxCommandEvent&)
+{
+    m_settingsPage.zoom->ChangeValue(wxString::Format("%d", m_settingsPage.zoomSlider->GetValue()));
+}
+
+void KavMapOptions::OnZoomTyped(wxCommandEvent&)
+{
+    ShowZoomOnSlider();
+}
+
+void KavMapOptions::ShowZoomOnSlider()
+{
+    wxSlider* const slider = m_settingsPage.zoomSlider;
+    long zoom = 0;
+    if (m_settingsPage.zoom->GetValue().ToCLong(&zoom))
+        slider->SetValue(static_cast<int>(std::clamp<long>(zoom, slider->GetMin(), slider->GetMax())));
+}
+
+void KavMapOptions::OnSquaresStyle(wxCommandEvent&)
+{
+    ShowSquaresPreviews();
+}
+
+void KavMapOptions::ShowSquaresPreviews()
+{
+    for (const ui::PlotSquaresPage::Slot& slot : m_plotSquaresPage.slots)
+    {
+        PlotSquaresSlot style;
+        style.stipple = slot.stipple->GetSelection();
+        style.borderColour = ui::SettingFromPicked(slot.borderColour->GetColour());
+        style.fillColour = ui::SettingFromPicked(slot.fillColour->GetColour());
+        style.alpha = slot.alpha->GetValue();
+        slot.preview->SetBitmap(ui::SquaresPreview(style));
+    }
+}
+
+void KavMapOptions::OnParameter(wxCommandEvent&)
+{
+    m_scales.ShowChosen();
+}
+
+void KavMapOptions::OnNow(wxCommandEvent&)
+{
+    const UtcTime now = UtcNow();
+    m_timePage.hour->SetSelection(now.hour);
+    m_timePage.minute->SetSelection(now.minute);
+    ui::ShowDate(m_timePage.date, now);
+}
+
+void KavMapOptions::OnLatitudeTyped(wxCommandEvent&)
+{
+    m_latitude.FillParts();
+}
+
+void KavMapOptions::OnLatitudeFromDegrees(wxCommandEvent&)
+{
+    m_latitude.FillDecimal();
+}
+
+void KavMapOptions::OnLongitudeTyped(wxCommandEvent&)
+{
+    m_longitude.FillParts();
+}
+
+void KavMapOptions::OnLongitudeFromDegrees(wxCommandEvent&)
+{
+    m_longitude.FillDecimal();
+}
+
+void KavMapOptions::OnLatLonFromLocator(wxCommandEvent&)
+{
+    wxString locator = m_homePage.locator->GetValue().Upper();
+    double lat = 0.0;
+    double lon = 0.0;
+    if (!Configuration::LocatorToLatLon(lat, lon, locator))
+        return;
+    m_latitude.Show(lat);
+    m_longitude.Show(lon);
+}
+
+void KavMapOptions::OnLocatorFromLatLon(wxCommandEvent&)
+{
+    const auto lat = m_latitude.Degrees();
+    const auto lon = m_longitude.Degrees();
+    if (!lat || !lon)
+        return;
+    wxString locator = "AA11RR";
+    Configuration::LatLonToLocator(locator, *lat, *lon);
+    m_homePage.locator->ChangeValue(locator);
+}
+
+KavMapOptions::Values KavMapOptions::CurrentValues()
+{
+    Values values;
+    m_settings.ForEachSetting([&values](const wxString&, const auto& member, const auto&)
+                              { values.emplace_back(member); });
+    return values;
+}

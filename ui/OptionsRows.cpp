@@ -1,0 +1,180 @@
+#include "ui/OptionsRows.h"
+
+#include "ui/Choices.h"
+
+#include <wx/log.h>
+#include <wx/utils.h>
+
+namespace
+{
+constexpr int kFontButtonWidth = 150; // whatever the name of the font: the button shortens it
+
+/// A file picker whose browsing dialog is made when it is asked for. The toolkit's own makes one at once: with sixteen
+/// of them the options dialog would take its time to open.
+class FilePicker : public wxFilePickerCtrl
+{
+protected:
+    wxFileDirPickerWidgetBase* CreatePicker(wxWindow* parent, const wxString& path, const wxString& message,
+                                            const wxString& wildcard) override
+    {
+        return new wxGenericFileButton(parent, wxID_ANY, wxGetTranslation(wxFilePickerWidgetLabel), path, message,
+                                       wildcard, wxDefaultPosition, wxDefaultSize, GetPickerStyle(GetWindowStyle()));
+    }
+};
+
+class DirectoryPicker : public wxDirPickerCtrl
+{
+protected:
+    wxFileDirPickerWidgetBase* CreatePicker(wxWindow* parent, const wxString& path, const wxString& message,
+                                            const wxString&) override
+    {
+        return new wxGenericDirButton(parent, wxID_ANY, wxGetTranslation(wxDirPickerWidgetLabel), path, message,
+                                      wxDefaultPosition, wxDefaultSize, GetPickerStyle(GetWindowStyle()));
+    }
+};
+
+/// The toolkit would drop a path of more than 512 characters.
+void AllowAnyLength(wxPickerBase* picker)
+{
+    picker->GetTextCtrl()->SetMaxLength(0);
+}
+
+void OpenAddress(wxHyperlinkEvent& event)
+{
+    const wxLogNull quiet;
+    wxLaunchDefaultBrowser(event.GetURL());
+}
+} // namespace
+
+namespace ui
+{
+wxScrolledWindow* NewPage(wxBookCtrlBase* book, const wxString& title)
+{
+    auto* const page = new wxScrolledWindow(book);
+    page->SetScrollRate(10, 10);
+    book->AddPage(page, title);
+    return page;
+}
+
+void FinishPage(wxScrolledWindow* page, wxSizer* content)
+{
+    auto* const padded = new wxBoxSizer(wxVERTICAL);
+    padded->Add(content, 1, wxEXPAND | wxALL, 2 * kGap);
+    page->SetSizer(padded);
+    page->SetMinSize(padded->GetMinSize());
+}
+
+wxStaticText* NewLabel(wxWindow* parent, const wxString& text)
+{
+    return new wxStaticText(parent, wxID_ANY, text);
+}
+
+wxCheckBox* NewCheck(wxWindow* parent, const wxString& label)
+{
+    return new wxCheckBox(parent, wxID_ANY, label);
+}
+
+wxSpinCtrl* NewSpin(wxWindow* parent, int min, int max, long style)
+{
+    return new wxSpinCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS | style, min, max,
+                          min);
+}
+
+wxChoice* NewChoice(wxWindow* parent, const wxArrayString& entries)
+{
+    auto* const choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, entries);
+    choice->SetSelection(0);
+    return choice;
+}
+
+wxChoice* NewChoice(wxWindow* parent, std::span<const char* const> entries)
+{
+    return NewChoice(parent, Labels(entries));
+}
+
+wxRadioBox* NewRadioBox(wxWindow* parent, const wxString& label, std::span<const char* const> entries, int columns)
+{
+    return new wxRadioBox(parent, wxID_ANY, label, wxDefaultPosition, wxDefaultSize, Labels(entries), columns,
+                          wxRA_SPECIFY_COLS);
+}
+
+wxColourPickerCtrl* NewColour(wxWindow* parent)
+{
+    return new wxColourPickerCtrl(parent, wxID_ANY);
+}
+
+wxFontPickerCtrl* NewFont(wxWindow* parent)
+{
+    auto* const font = new wxFontPickerCtrl(parent, wxID_ANY);
+    font->SetMinSize(wxSize(kFontButtonWidth, -1));
+    return font;
+}
+
+wxTextCtrl* NewText(wxWindow* parent, int digits, const wxString& text)
+{
+    auto* const field = new wxTextCtrl(parent, wxID_ANY, text);
+    const wxString widest('0', static_cast<std::size_t>(digits));
+    field->SetMinSize(field->GetSizeFromTextSize(field->GetTextExtent(widest).x));
+    return field;
+}
+
+wxFilePickerCtrl* NewFile(wxWindow* parent, const wxString& wildcard, long style)
+{
+    auto* const picker = new FilePicker;
+    picker->Create(parent, wxID_ANY, "", "Select a file", wildcard, wxDefaultPosition, wxDefaultSize,
+                   wxFLP_OPEN | wxFLP_FILE_MUST_EXIST | wxFLP_USE_TEXTCTRL | style);
+    AllowAnyLength(picker);
+    return picker;
+}
+
+wxDirPickerCtrl* NewDirectory(wxWindow* parent)
+{
+    auto* const picker = new DirectoryPicker;
+    picker->Create(parent, wxID_ANY, "", "Select a folder", wxDefaultPosition, wxDefaultSize,
+                   wxDIRP_DIR_MUST_EXIST | wxDIRP_USE_TEXTCTRL);
+    AllowAnyLength(picker);
+    return picker;
+}
+
+wxHyperlinkCtrl* NewLink(wxWindow* parent, const wxString& label, const wxString& address)
+{
+    auto* const link = new wxHyperlinkCtrl(parent, wxID_ANY, label, address);
+    link->Bind(wxEVT_HYPERLINK, &OpenAddress);
+    return link;
+}
+
+LineRow NewLineRow(wxWindow* parent)
+{
+    return {NewCheck(parent), NewColour(parent), NewSpin(parent, 0, 255), NewSpin(parent, 1, 10)};
+}
+
+TextStyleRow NewTextStyleRow(wxWindow* parent)
+{
+    return {NewCheck(parent), NewColour(parent), NewFont(parent), NewSpin(parent, 0, 255)};
+}
+
+wxFlexGridSizer* NewGrid(int columns)
+{
+    return new wxFlexGridSizer(columns, kGap, 2 * kGap);
+}
+
+void AddCells(wxSizer* grid, std::initializer_list<wxWindow*> controls)
+{
+    for (wxWindow* const control : controls)
+        grid->Add(control, 0, wxALIGN_CENTRE_VERTICAL);
+}
+
+void AddHeadings(wxWindow* parent, wxSizer* grid, std::initializer_list<const char*> headings)
+{
+    for (const char* const heading : headings)
+        grid->Add(NewLabel(parent, heading), 0, wxALIGN_BOTTOM);
+}
+
+wxSizer* Labelled(wxWindow* label, wxWindow* control, int proportion)
+{
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(label, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, kGap);
+    row->Add(control, proportion, wxALIGN_CENTRE_VERTICAL);
+    return row;
+}
+} // namespace ui
