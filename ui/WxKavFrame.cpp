@@ -3,6 +3,7 @@
 #include "geo/Angles.h"
 #include "render/PictureFile.h"
 #include "ui/Ids.h"
+#include "ui/KavMapOptions.h"
 
 #include <wx/filedlg.h>
 #include <wx/filefn.h>
@@ -78,7 +79,25 @@ void WxKavFrame::OnQuit(wxCommandEvent&)
     Destroy();
 }
 
-void WxKavFrame::OnProperties(wxCommandEvent&) {}
+void WxKavFrame::OnProperties(wxCommandEvent&)
+{
+    KavMapOptions dialog(this, *m_settings);
+    if (dialog.ShowModal() == wxID_OK && m_settings->resetOverlays)
+        ResetOverlays();
+    // However it ended, a file may have been loaded; the next creation must not bring the old centre back.
+    m_locator->ChangeValue(m_settings->centreLoc);
+    m_canvas->ShowPicture();
+}
+
+void WxKavFrame::ResetOverlays()
+{
+    m_greylineTimer.Stop();
+    m_propagationTimer.Stop();
+    SetStatusText("", 1);
+    SetPropagationTools(false, m_settings->propagation.frequency, m_settings->propagation.parameter);
+    m_canvas->showGreyline = false;
+    m_canvas->showPropagation = false;
+}
 
 void WxKavFrame::OnAbout(wxCommandEvent&)
 {

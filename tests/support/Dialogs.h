@@ -6,6 +6,7 @@
 #include <wx/msgdlg.h>
 #include <wx/utils.h>
 
+#include <functional>
 #include <vector>
 
 /// Answers modal dialogs in the user's place for as long as it lives, and keeps what they said.
@@ -25,6 +26,9 @@ public:
     std::vector<Message> messages;     ///< message boxes, all answered with OK
     wxString chosenPath;               ///< what file dialogs are answered with; empty is Cancel
     std::vector<wxString> fileDialogs; ///< what file dialogs offered: message, directory, name, wildcard
+
+    /// Answers any other dialog in its place; wxID_NONE lets it come up. None by default.
+    std::function<int(wxDialog& dialog)> onOtherDialog;
 
     /// The texts of all message boxes, one a line.
     wxString Texts() const
@@ -59,6 +63,6 @@ protected:
             }
             return wxID_OK;
         }
-        return wxID_NONE;
+        return onOtherDialog ? onOtherDialog(*dialog) : wxID_NONE;
     }
 };
