@@ -55,10 +55,11 @@ void Options::CreateButtons()
 void Options::ChooseSize()
 {
     const int display = std::max(0, wxDisplay::GetFromWindow(GetParent() ? GetParent() : this));
-    wxSize size = GetSizer()->ComputeFittingWindowSize(this);
+    const wxSize screen = wxDisplay(static_cast<unsigned>(display)).GetClientArea().GetSize();
+    wxSize size = GetSizer()->GetMinSize();
     size.IncTo(kInitialSize);
-    size.DecTo(wxDisplay(static_cast<unsigned>(display)).GetClientArea().GetSize() - kDecorations);
-    SetSize(size);
+    size.DecTo(screen - kDecorations);
+    SetClientSize(size);
     Layout();
     // A page gets its true size when the dialog is shown; until then the inner notebook must not be without any.
     m_voacapPage.book->GetParent()->SetSize(m_book->GetSize());

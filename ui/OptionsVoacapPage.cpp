@@ -78,12 +78,11 @@ AntennaGroup AddAntenna(wxWindow* page, wxSizer* content, const char* label)
 wxTextCtrl* NewExplanation(wxWindow* parent)
 {
     auto* const text = new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                                      wxTE_MULTILINE | wxTE_READONLY | wxTE_NO_VSCROLL);
+                                      wxTE_MULTILINE | wxTE_READONLY | wxTE_NO_VSCROLL | wxBORDER_NONE);
     wxSize needed;
     const wxClientDC dc(text);
     for (const char* const explanation : kParameterExplanations)
         needed.IncTo(dc.GetMultiLineTextExtent(explanation));
-    text->SetMargins(kGap, kGap);
     text->SetMinSize(needed + wxSize(4 * kGap, 4 * kGap));
     text->Bind(wxEVT_KEY_DOWN,
                [text](wxKeyEvent& event)
@@ -131,6 +130,7 @@ VoacapAppearancePage::VoacapAppearancePage(wxBookCtrlBase* book)
     auto* const group = new wxStaticBoxSizer(wxHORIZONTAL, panel, "Colour and transparency");
     wxWindow* const box = group->GetStaticBox();
     parameter = NewRadioBox(box, "Parameter", kParameters, 1);
+    parameter->SetMinSize(parameter->GetBestSize() + wxSize(4 * kGap, 0));
     group->Add(parameter, 0, wxALL, kGap);
 
     auto* const scale = new wxFlexGridSizer(2, kGap / 3, kGap);
