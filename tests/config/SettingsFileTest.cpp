@@ -31,7 +31,7 @@ TEST(SettingsFile, KeepsEntriesThatTheProgramDoesNotKnow)
 TEST(SettingsFile, ThatCannotBeReadGivesDefaultsSilently)
 {
     const TemporaryHome home;
-    home.Write("noise.ini", std::string("\x00\xff\xfe[[[=\n]=\x80\x01\n[Size", 20));
+    home.Write("noise.ini", std::string("\x00\xff\xfe[[[=\n]=\x80\x01\n[Size", 18));
     home.Write("directory.ini/file", "");
     wxLogBuffer log;
     wxLog* before = wxLog::SetActiveTarget(&log);

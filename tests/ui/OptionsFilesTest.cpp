@@ -159,7 +159,7 @@ TEST_F(OptionsFiles, ThatCannotBeReadGiveDefaultsInSilence)
     settings.size = 5;
     Load(home.Path("directory.ini"));
     EXPECT_EQ(settings.size, 900);
-    Load(home.Write("noise.ini", std::string("\x00\xff\xfe[[[=\n]=\x80\x01\n[Size", 20)));
+    Load(home.Write("noise.ini", std::string("\x00\xff\xfe[[[=\n]=\x80\x01\n[Size", 18)));
     EXPECT_EQ(settings.size, 900);
     Load(secret); // the superuser may read it
     EXPECT_TRUE(settings.size == 900 || settings.size == 321);
