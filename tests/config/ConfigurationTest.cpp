@@ -13,6 +13,7 @@
 
 namespace
 {
+using namespace std::string_literals;
 using testing::HasSubstr;
 
 /// Every setting as text, by key.
@@ -216,7 +217,7 @@ TEST(Configuration, TakenFromAnotherFileLeavesTheWorkingFileAlone)
 TEST(Configuration, ReportsNothingAboutDamagedFiles)
 {
     const TemporaryHome home;
-    home.Write(".Kavdex", std::string("[Compass\nShow=7\n=\n\xff\xfe\x00junk\n[Greyzone]\nShow=maybe\n", 54));
+    home.Write(".Kavdex", "[Compass\nShow=7\n=\n\xff\xfe\x00junk\n[Greyzone]\nShow=maybe\n"s);
     wxLogBuffer log;
     wxLog* before = wxLog::SetActiveTarget(&log);
     const Configuration settings("Kavdex");
