@@ -1,0 +1,96 @@
+#include "propagation/AreaInput.h"
+
+#include "propagation/NumberOf.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace propagation
+{
+namespace
+{
+template <class Table>
+auto NearestEntry(const Table& table, int index)
+{
+    return table[static_cast<std::size_t>(std::clamp(index, 0, static_cast<int>(table.size()) - 1))];
+}
+
+wxString TransmitLine(double lat, double lon)
+{
+    return wxString::Format("Transmit : %3.2f%c    %3.2f%c   HOME                 Short\n", std::abs(lat),
+                            lat >= 0 ? 'N' : 'S', std::abs(lon), lon >= 0 ? 'E' : 'W');
+}
+
+wxString SystemLine(const PropagationSettings& p)
+{
+    return wxString::Format("System   :  %3.0f     %2.3f   %2.0f   %2.0f     %2.3f     %2.3f\n",
+                            NumberOf(p.manMadeNoise), NumberOf(p.minTakeOffAngle), NumberOf(p.requiredReliability),
+                            NumberOf(p.requiredSnr), NumberOf(p.multipathPowerTolerance),
+                            NumberOf(p.maxMultipathDelay));
+}
+
+wxString LayerLine(const std::array<wxString, 4>& multipliers)
+{
+    return wxString::Format("Fprob    : %1.2f %1.2f %1.2f %1.2f\n", NumberOf(multipliers[0]), NumberOf(multipliers[1]),
+                            NumberOf(multipliers[2]), NumberOf(multipliers[3]));
+}
+
+wxString AntennaLines(const PropagationSettings& p, const AntennaNames& antennas)
+{
+    return wxString::Format("Rec Ants :[%s]  gain=   %2.1f   %3.1f\n", antennas.receiver, NumberOf(p.receiver.gain),
+                            NumberOf(p.receiver.directionDeg)) +
+           wxString::Format("Tx Ants  :[%s]  %2.3f %3.1f  %1.3f\n", antennas.transmitter, NumberOf(p.transmitter.gain),
+                            NumberOf(p.transmitter.directionDeg), TxPowerKw(p.txPower));
+}
+} // namespace
+
+AreaTime AreaTimeOf(const GreyzoneSettings& settings, const UtcTime& now)
+{
+    if (settings.timeMode != kRealTime)
+        return {settings.once.month + 1, settings.once.hour};
+    return {now.month + 1, now.minute > 30 ? (now.hour + 1) % 24 : now.hour};
+}
+
+int GridPoints(int choice)
+{
+    static constexpr std::array kPoints{18, 36, 54, 72, 90, 108, 126, 144, 162, 180, 198};
+    return NearestEntry(kPoints, choice);
+}
+
+double FrequencyMHz(const PropagationSettings& settings)
+{
+    static constexpr std::array kBands{3.5, 7.0, 10.1, 14.0, 18.1, 21.0, 24.9, 28.0};
+    const bool isUsersOwn = settings.frequency >= static_cast<int>(kBands.size());
+    return isUsersOwn ? NumberOf(settings.userFrequencyMHz) : NearestEntry(kBands, settings.frequency);
+}
+
+double TxPowerKw(int choice)
+{
+    static constexpr std::array kPowers{0.001, 0.01, 0.05, 0.1, 0.25, 0.5, 1.0};
+    return NearestEntry(kPowers, choice);
+}
+
+wxString AreaInputText(const Configuration& settings, const AreaTime& time, const AntennaNames& antennas)
+{
+    const PropagationSettings& p = settings.propagation;
+    wxString text = "Model    :VOACAP\n"
+                    "Colors   :Black    :Blue     :Ignore   :Ignore   :Red      :Black with shading\n"
+                    "Cities   :Receive.cty\n"
+                    "Nparms   :    1\n"
+                    "Parameter:SDBW     0\n"
+                    "Method   :   30\n"
+                    "Coeffs   :CCIR\n";
+    text += TransmitLine(settings.centreLat, settings.centreLon);
+    text += "Area     :    -180.0     180.0     -90.0      90.0\n";
+    text += wxString::Format("Gridsize : %d    1\n", GridPoints(p.grid));
+    text += wxString::Format("Months   :  %2.2f   0.00   0.00   0.00   0.00   0.00   0.00   0.00   0.00\n",
+                             static_cast<double>(time.month));
+    text += wxString::Format("Ssns     :     %2ld      0      0      0      0      0      0      0      0\n",
+                             p.sunspotNumber);
+    text +=
+        wxString::Format("Hours    :     %02d      0      0      0      0      0      0      0      0\n", time.hour);
+    text +=
+        wxString::Format("Freqs    : %2.3f  0.000  0.000  0.000  0.000  0.000  0.000  0.000  0.000\n", FrequencyMHz(p));
+    return text + SystemLine(p) + LayerLine(p.layerMultipliers) + AntennaLines(p, antennas);
+}
+} // namespace propagation

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "propagation/ClassScale.h"
+
+#include <wx/bitmap.h>
+#include <wx/font.h>
+
+namespace propagation
+{
+/// The legend of an overlay, opaque on white, and where it lies.
+struct Legend
+{
+    wxBitmap bitmap;
+    int top = 0; ///< the map's row of its first row, negative where the map has no room; its left edge is the map's
+};
+
+/**
+ * Title, thresholds and, beside each of these, a box in the colour of the class above it.
+ *
+ * @param[in] side of the map in pixels; the legend is not made wider.
+ */
+Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, int side);
+} // namespace propagation

@@ -1,0 +1,91 @@
+#include "propagation/Propagation.h"
+
+#include "propagation/Overlay.h"
+#include "propagation/WorldGrid.h"
+#include "render/Style.h"
+
+#include <wx/filename.h>
+
+namespace
+{
+bool isBusy = false;
+
+/// Says that an overlay is being made for as long as it lives.
+class Busy
+{
+public:
+    Busy() { isBusy = true; }
+    ~Busy() { isBusy = false; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+};
+} // namespace
+
+using namespace propagation;
+
+Propagation::Propagation(MapPicture& picture, const MapView& view, Configuration& settings, const ShowStep& showStep)
+    : m_picture(picture),
+      m_view(view),
+      m_settings(settings),
+      m_showStep(showStep),
+      m_files(settings.propagation.directory)
+{
+    if (isBusy)
+        return;
+    const Busy busy;
+    m_picture.showPropagation = false;
+    if (m_settings.propagation.useExternalResult)
+        DrawResultIn(m_settings.propagation.externalResult);
+    else
+        RunAndDraw();
+}
+
+bool Propagation::IsBusy()
+{
+    return isBusy;
+}
+
+void Propagation::RunAndDraw()
+{
+    if (RunVoacap(m_files, m_settings, m_showStep) != 0)
+        ShowError("Error calling VOACAP");
+    // voacapl may leave an empty file behind and still end well.
+    else if (wxFileName::GetSize(m_files.result) == 0)
+        ShowError(kFileOpenError);
+    else
+        DrawResultIn(m_files.result);
+}
+
+void Propagation::DrawResultIn(const wxString& path)
+{
+    m_showStep("Reading file...");
+    LineReader file(path);
+    if (!file.IsOk())
+        ShowError(kFileOpenError);
+    else if (const auto result = ReadResult(file, ParameterOf(m_settings.propagation.parameter)))
+        Draw(*result);
+}
+
+void Propagation::Draw(const ResultGrid& result)
+{
+    const PropagationSettings& p = m_settings.propagation;
+    const auto alpha = static_cast<std::uint8_t>(p.alpha & 255);
+    m_showStep("Calling Regrid...");
+    const ClassScale scale = ScaleOf(p, result);
+    const auto classes = WorldClasses(WorldValues(result), scale);
+    m_showStep("Creating prop img...");
+    auto overlay = DrawOverlay(m_view, classes, scale, alpha);
+    if (!overlay)
+    {
+        ShowError("Error creating bitmap original function Prop");
+        return;
+    }
+    if (p.legend == 1)
+    {
+        const wxFont font = render::FontFromSetting(m_settings.compass.text.font);
+        Legend legend = DrawLegend(ParameterOf(p.parameter), scale, font, m_view.frame.mapSize);
+        PutLegend(*overlay, legend, alpha);
+    }
+    m_picture.propagationBitmap = std::move(overlay);
+    m_picture.showPropagation = true;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "propagation/Messages.h"
+#include "propagation/ResultReader.h"
+#include "propagation/VoacapRun.h"
+#include "render/MapPicture.h"
+#include "render/MapView.h"
+
+/**
+ * One propagation overlay: made for one map, used once.
+ *
+ * Everything happens in the constructor: voacapl is run, its result is read (or that of another run, when the settings
+ * name one), and the overlay is put into the picture and shown. Whatever fails is reported to the user and leaves the
+ * picture's previous overlay in place but hidden; so does, silently, a result with too few points.
+ *
+ * While voacapl runs, events are handled and windows are disabled.
+ */
+class Propagation
+{
+public:
+    /**
+     * @param         view     of the map in the picture.
+     * @param[in,out] settings the engine is set to VOACAP when voacapl is run.
+     * @pre no other object is at work, see IsBusy(); a second one does nothing.
+     */
+    Propagation(MapPicture& picture, const MapView& view, Configuration& settings,
+                const propagation::ShowStep& showStep);
+    Propagation(const Propagation&) = delete;
+    Propagation& operator=(const Propagation&) = delete;
+
+    /// Whether an overlay is being made: the handler of a timer is called while voacapl runs.
+    static bool IsBusy();
+
+private:
+    void RunAndDraw();
+    void DrawResultIn(const wxString& path);
+    void Draw(const propagation::ResultGrid& result);
+
+    MapPicture& m_picture;
+    const MapView& m_view;
+    Configuration& m_settings;
+    const propagation::ShowStep& m_showStep;
+    const propagation::AreaFiles m_files;
+};

@@ -1,0 +1,87 @@
+#include "propagation/ResultReader.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+
+namespace propagation
+{
+namespace
+{
+constexpr int kFewestPoints = 18;
+
+/// Where a field stands in each line.
+struct Field
+{
+    std::size_t start;
+    std::size_t length;
+};
+
+Field FieldOf(Parameter parameter)
+{
+    static constexpr std::array<Field, 4> kFields{{{74, 6}, {86, 6}, {26, 6}, {99, 5}}};
+    return kFields[static_cast<std::size_t>(parameter)];
+}
+
+/// A field of a line as text of its own; shorter where the line ends before it.
+class FieldText
+{
+public:
+    FieldText(std::string_view line, Field field)
+    {
+        if (line.size() > field.start)
+            line.substr(field.start, field.length).copy(m_text.data(), m_text.size() - 1);
+    }
+
+    /// As the toolkit converts texts to numbers: what is too large or too small is no number.
+    double Number() const
+    {
+        errno = 0;
+        const double number = std::strtod(m_text.data(), nullptr);
+        return errno == ERANGE ? 0.0 : number;
+    }
+
+    int Integer() const { return static_cast<int>(std::strtol(m_text.data(), nullptr, 10)); }
+
+private:
+    std::array<char, 8> m_text{};
+};
+
+int ReadPoints(LineReader& file)
+{
+    std::optional<LineReader::Line> line;
+    for (int i = 0; i < 3; ++i)
+        line = file.Next();
+    return line ? FieldText(line->text, {0, 3}).Integer() : 0;
+}
+
+void ReadValues(LineReader& file, Field field, ResultGrid& grid)
+{
+    for (double& value : grid.values)
+    {
+        const auto line = file.Next();
+        if (!line || (!line->ended && line->text.size() < field.start + field.length))
+            return;
+        value = FieldText(line->text, field).Number();
+        grid.minimum = std::min(grid.minimum, value);
+        grid.maximum = std::max(grid.maximum, value);
+    }
+}
+} // namespace
+
+Parameter ParameterOf(int setting)
+{
+    return setting >= 0 && setting <= 3 ? static_cast<Parameter>(setting) : Parameter::Sdbw;
+}
+
+std::optional<ResultGrid> ReadResult(LineReader& file, Parameter parameter)
+{
+    ResultGrid grid;
+    grid.points = ReadPoints(file);
+    if (grid.points < kFewestPoints)
+        return std::nullopt;
+    grid.values.resize(static_cast<std::size_t>(grid.points) * static_cast<std::size_t>(grid.points));
+    ReadValues(file, FieldOf(parameter), grid);
+    return grid;
+}
+} // namespace propagation

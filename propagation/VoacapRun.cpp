@@ -1,0 +1,93 @@
+#include "propagation/VoacapRun.h"
+
+#include "propagation/AntennaName.h"
+#include "propagation/AreaInput.h"
+
+#include <wx/crt.h>
+#include <wx/log.h>
+#include <wx/utils.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+namespace propagation
+{
+namespace
+{
+constexpr int kFailed = -1;
+constexpr int kVoacapEngine = 1;
+
+using File = std::unique_ptr<std::FILE, decltype(&std::fclose)>;
+
+std::optional<AntennaNames> NamesOfAntennas(const PropagationSettings& settings)
+{
+    AntennaNames names;
+    for (const auto& [antenna, name] :
+         {std::pair{&settings.transmitter, &names.transmitter}, {&settings.receiver, &names.receiver}})
+    {
+        const AntennaName found = AntennaNameOf(antenna->file);
+        if (!found.problem.empty())
+        {
+            ShowError(found.problem);
+            return std::nullopt;
+        }
+        *name = found.columns;
+    }
+    return names;
+}
+
+bool WriteAndClose(File file, const wxString& text)
+{
+    // Antennas are files, so their names are written as the bytes of file names.
+    const wxCharBuffer bytes = text.mb_str(*wxConvFileName);
+    const bool written = std::fwrite(bytes.data(), 1, bytes.length(), file.get()) == bytes.length();
+    return std::fclose(file.release()) == 0 && written;
+}
+
+bool Remove(const wxString& path)
+{
+    std::error_code error;
+    std::filesystem::remove(path.fn_str().data(), error);
+    return !error;
+}
+
+int Execute(const wxString& directory)
+{
+    const wxCharBuffer directoryBytes = directory.fn_str();
+    const char* const arguments[] = {"voacapl", "-s", directoryBytes.data(), "area", "calc", "default/kavdex.voa",
+                                     nullptr};
+    // The caller has a message for a program that can't be started.
+    const wxLogNull noSecondMessage;
+    return static_cast<int>(wxExecute(arguments, wxEXEC_SYNC));
+}
+} // namespace
+
+AreaFiles::AreaFiles(const wxString& dataDirectory)
+    : directory(dataDirectory),
+      input(directory + "/areadata/default/kavdex.voa"),
+      result(directory + "/areadata/default/kavdex.vg1")
+{
+}
+
+int RunVoacap(const AreaFiles& files, Configuration& settings, const ShowStep& showStep)
+{
+    const AreaTime time = AreaTimeOf(settings.greyzone, UtcNow());
+    const auto antennas = NamesOfAntennas(settings.propagation);
+    if (!antennas)
+        return kFailed;
+    File input(wxFopen(files.input, "w"), &std::fclose);
+    if (input)
+    {
+        settings.propagation.engine = kVoacapEngine;
+        showStep("Calling VoaArea...");
+    }
+    if (!input || !WriteAndClose(std::move(input), AreaInputText(settings, time, *antennas)))
+    {
+        ShowError(kFileOpenError);
+        return kFailed;
+    }
+    return Remove(files.result) ? Execute(files.directory) : kFailed;
+}
+} // namespace propagation

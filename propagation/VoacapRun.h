@@ -1,0 +1,30 @@
+#pragma once
+
+#include "config/Configuration.h"
+#include "propagation/Messages.h"
+
+namespace propagation
+{
+/// Where an area run keeps its files, below the data directory of voacapl.
+struct AreaFiles
+{
+    explicit AreaFiles(const wxString& directory);
+
+    wxString directory;
+    wxString input;
+    wxString result;
+};
+
+/**
+ * Writes the area input file and runs voacapl on it.
+ *
+ * Returns when voacapl has ended. Meanwhile windows repaint, but all of them are disabled, and timers go on. A result
+ * of an earlier run is removed before voacapl starts, so what is there afterwards is this run's.
+ *
+ * @param[in,out] settings the engine is set to VOACAP as soon as the input file is open.
+ * @return 0 when voacapl ended with exit status 0. Otherwise its exit status, or minus the signal that ended it; -1
+ *         when it could not be started, or when the input could not be written. The latter has been reported to the
+ *         user.
+ */
+int RunVoacap(const AreaFiles& files, Configuration& settings, const ShowStep& showStep);
+} // namespace propagation
