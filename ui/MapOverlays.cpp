@@ -2,6 +2,7 @@
 
 #include "geo/SunCalc.h"
 #include "geo/Truncate.h"
+#include "propagation/Propagation.h"
 #include "render/Greyline.h"
 #include "ui/Ids.h"
 
@@ -13,6 +14,10 @@ namespace
 {
 constexpr int kGreylinePeriodMs = 1000;
 constexpr int kPropagationPeriodMs = 60000;
+
+/// In real time the propagation overlay follows the clock in this minute of every hour: the first after the one in
+/// which the run's hour is rounded up.
+constexpr int kPropagationMinute = 31;
 
 void FollowTimeMode(wxTimer& timer, int timeMode, int periodMs)
 {
@@ -66,7 +71,8 @@ void WxKavFrame::DrawOverlays()
 
 void WxKavFrame::DrawGreyline()
 {
-    if (!HasMap())
+    // A tick may come while voacapl runs.
+    if (!HasMap() || Propagation::IsBusy())
         return;
     const bool forced = greylineDrawn;
     if (forced)
@@ -123,4 +129,12 @@ void WxKavFrame::OnGreylineTool(wxCommandEvent& event)
     m_canvas->ShowPicture();
 }
 
-void WxKavFrame::DrawPropagation(bool) {}
+void WxKavFrame::DrawPropagation(bool selectionChanged)
+{
+    if (!HasMap() || Propagation::IsBusy() || (!selectionChanged && UtcNow().minute != kPropagationMinute))
+        return;
+    ShowStep("Drawing Prop...");
+    const Propagation overlay(*m_canvas, *m_view, *m_settings, [this](const wxString& step) { ShowStep(step); });
+    SetStatusText("", 0);
+    m_canvas->ShowPicture();
+}
