@@ -4,11 +4,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace propagation
 {
 namespace
 {
+/// Settings may hold any number.
+constexpr int kLargestMonth = std::numeric_limits<int>::max() - 1;
+
 template <class Table>
 auto NearestEntry(const Table& table, int index)
 {
@@ -47,7 +51,7 @@ wxString AntennaLines(const PropagationSettings& p, const AntennaNames& antennas
 AreaTime AreaTimeOf(const GreyzoneSettings& settings, const UtcTime& now)
 {
     if (settings.timeMode != kRealTime)
-        return {settings.once.month + 1, settings.once.hour};
+        return {std::min(settings.once.month, kLargestMonth) + 1, settings.once.hour};
     return {now.month + 1, now.minute > 30 ? (now.hour + 1) % 24 : now.hour};
 }
 

@@ -33,10 +33,15 @@ Palette PaletteOf(const ClassScale& scale, unsigned alpha)
     return palette;
 }
 
-/// Turns classes into pixels in place.
-void Colour(std::span<Argb> row, const Palette& palette)
+/// The pixels of classes; the one may be written in place of the other.
+void Colour(std::span<const std::uint32_t> classes, const Palette& palette, std::span<Argb> pixels)
 {
-    std::ranges::transform(row, row.begin(), [&palette](Argb k) { return palette[k]; });
+    std::ranges::transform(classes, pixels.begin(), [&palette](std::uint32_t k) { return palette[k]; });
+}
+
+geo::WorldCells Lattice(std::span<const std::uint32_t> points)
+{
+    return geo::WorldCells::Lattice(points.data(), kPointsPerDegree);
 }
 
 bool IsOutermost(int index, int side)
@@ -52,18 +57,25 @@ std::unique_ptr<wxBitmap> DrawOverlay(const MapView& view, std::span<const std::
     auto overlay = render::NewOverlayBitmap(side);
     if (!overlay)
         return nullptr;
-    const geo::RowSampler classes(view.Disc(), geo::WorldCells::Lattice(worldClasses.data(), kPointsPerDegree),
-                                  kNoClass);
     const Palette opaque = PaletteOf(scale, 255);
     const Palette seeThrough = PaletteOf(scale, alpha);
+    std::vector<Argb> worldPixels(worldClasses.size());
+    Colour(worldClasses, seeThrough, worldPixels);
+    const geo::RowSampler classes(view.Disc(), Lattice(worldClasses), kNoClass);
+    const geo::RowSampler colours(view.Disc(), Lattice(worldPixels), seeThrough[kNoClass]);
     const render::BitmapPixels pixels(*overlay);
     for (int y = 0; y < side; ++y)
     {
         const auto row = pixels.Row(y);
-        classes.Row(y, row);
-        row.front() = opaque[row.front()];
-        row.back() = opaque[row.back()];
-        Colour(row.subspan(1, row.size() - 2), IsOutermost(y, side) ? opaque : seeThrough);
+        if (IsOutermost(y, side))
+        {
+            classes.Row(y, row);
+            Colour(row, opaque, row);
+            continue;
+        }
+        colours.Row(y, row);
+        row.front() = opaque[classes.Pixel(0, y)];
+        row.back() = opaque[classes.Pixel(side - 1, y)];
     }
     return overlay;
 }

@@ -181,6 +181,8 @@ TEST(AreaTime, IsTheStoredOneOtherwise)
         stored.timeMode = mode;
         EXPECT_EQ(AreaTimeOf(stored, {2026, 5, 10, 13, 31, 0}), (AreaTime{12, 18}));
     }
+    stored.once.month = INT_MAX;
+    EXPECT_EQ(AreaTimeOf(stored, {}).month, INT_MAX);
 }
 
 TEST(NumberOf, IsTheNumberAtTheBeginningOrZero)

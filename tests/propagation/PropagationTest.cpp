@@ -391,32 +391,31 @@ private:
 
 TEST_F(PropagationTest, LetsTheWindowRepaintButTakesNoCommandsMeanwhile)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "main window");
+    wxFrame frame(nullptr, wxID_ANY, "main window");
     int paints = 0;
-    frame->Bind(wxEVT_PAINT,
-                [&](wxPaintEvent& event)
-                {
-                    ++paints;
-                    event.Skip();
-                });
-    frame->Show();
+    frame.Bind(wxEVT_PAINT,
+               [&](wxPaintEvent& event)
+               {
+                   ++paints;
+                   event.Skip();
+               });
+    frame.Show();
     wxTheApp->Yield();
     paints = 0;
-    Watch watch(*frame, [&] { frame->Refresh(); });
+    Watch watch(frame, [&] { frame.Refresh(); });
     EXPECT_THAT(Draw("slow"), IsEmpty());
     watch.Stop();
     EXPECT_GE(watch.ticks, 4);
     EXPECT_EQ(watch.ticksWithWindowEnabled, 0);
     EXPECT_GE(paints, 2);
-    EXPECT_TRUE(frame->IsEnabled());
-    frame->Destroy();
+    EXPECT_TRUE(frame.IsEnabled());
 }
 
 TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "main window");
+    wxFrame frame(nullptr, wxID_ANY, "main window");
     int busy = 0;
-    Watch watch(*frame,
+    Watch watch(frame,
                 [&]
                 {
                     busy += Propagation::IsBusy();
@@ -427,6 +426,5 @@ TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)
     EXPECT_GE(busy, 4);
     EXPECT_EQ(Runs(), 1);
     EXPECT_TRUE(picture.showPropagation);
-    frame->Destroy();
 }
 } // namespace
