@@ -46,12 +46,14 @@ std::unique_ptr<wxBitmap> NewBitmap(int side, int depth)
 }
 } // namespace
 
-bool BitmapPixels::inPlace = true;
+bool BitmapPixels::mayReachInPlace = true;
 
 BitmapPixels::BitmapPixels(wxBitmap& bitmap)
-    : m_bitmap(bitmap), m_width(bitmap.GetWidth()), m_height(bitmap.GetHeight())
+    : m_bitmap(bitmap), m_width(bitmap.GetWidth()), m_height(bitmap.GetHeight()), m_context(ContextOf(bitmap))
 {
-    if (!OpenInPlace())
+    if (m_context)
+        OpenInPlace();
+    else
         OpenImage();
 }
 
@@ -68,24 +70,35 @@ BitmapPixels::~BitmapPixels()
     }
 }
 
-bool BitmapPixels::OpenInPlace()
+/// A context on the surface behind a bitmap; none unless that surface is memory of 32 bits a pixel.
+cairo_t* BitmapPixels::ContextOf(const wxBitmap& bitmap)
 {
-    if (!inPlace)
-        return false;
-    cairo_t* const context = m_bitmap.CairoCreate();
+    if (!mayReachInPlace)
+        return nullptr;
+    cairo_t* const context = bitmap.CairoCreate();
     cairo_surface_t* const surface = cairo_get_target(context);
     const bool isImage = cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE;
     const cairo_format_t format = isImage ? cairo_image_surface_get_format(surface) : CAIRO_FORMAT_INVALID;
-    if (format != CAIRO_FORMAT_RGB24 && format != CAIRO_FORMAT_ARGB32)
-    {
+    if (format == CAIRO_FORMAT_RGB24 || format == CAIRO_FORMAT_ARGB32)
+        return context;
+    cairo_destroy(context);
+    return nullptr;
+}
+
+bool BitmapPixels::AreInPlace(const wxBitmap& bitmap)
+{
+    cairo_t* const context = ContextOf(bitmap);
+    if (context)
         cairo_destroy(context);
-        return false;
-    }
+    return context != nullptr;
+}
+
+void BitmapPixels::OpenInPlace()
+{
+    cairo_surface_t* const surface = cairo_get_target(m_context);
     cairo_surface_flush(surface);
-    m_context = context;
     m_pixels = reinterpret_cast<Argb*>(cairo_image_surface_get_data(surface));
     m_stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) / sizeof(Argb);
-    return true;
 }
 
 void BitmapPixels::OpenImage()
@@ -133,7 +146,7 @@ std::unique_ptr<wxBitmap> NewWhiteBitmap(int side)
 
 wxImage ImageOf(wxBitmap& bitmap)
 {
-    if (!BitmapPixels::inPlace)
+    if (!BitmapPixels::AreInPlace(bitmap))
         return bitmap.ConvertToImage();
     const BitmapPixels pixels(bitmap);
     wxImage image(pixels.Width(), pixels.Height(), false);

@@ -57,11 +57,15 @@ public:
         return {m_pixels + static_cast<std::size_t>(y) * m_stride, static_cast<std::size_t>(m_width)};
     }
 
-    /// Whether pixels of bitmaps are reached in place by default; tests switch it off to try the other way.
-    static bool inPlace;
+    /// Whether the pixels of a bitmap can be reached in place.
+    static bool AreInPlace(const wxBitmap& bitmap);
+
+    /// Tests forbid the direct way to try the other.
+    static bool mayReachInPlace;
 
 private:
-    bool OpenInPlace();
+    static struct _cairo* ContextOf(const wxBitmap& bitmap);
+    void OpenInPlace();
     void OpenImage();
     void WriteImageBack();
 

@@ -21,9 +21,9 @@ wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
 
 bool Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
 {
-    if (!BitmapPixels::inPlace)
-        return false;
     m_dc.SelectObject(wxNullBitmap);
+    if (!BitmapPixels::AreInPlace(*m_sheet) || !BitmapPixels::AreInPlace(map))
+        return false;
     const BitmapPixels sheet(*m_sheet);
     const BitmapPixels pixels(map);
     BlendAndWhiten(sheet, pixels, alpha);

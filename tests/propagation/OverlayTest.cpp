@@ -139,9 +139,9 @@ TEST_F(OverlayTest, HasTheSamePixelsAtAnyOpacity)
 TEST_F(OverlayTest, ComesOutTheSameWhereBitmapsCantBeReachedInPlace)
 {
     const Pixels direct = Draw();
-    render::BitmapPixels::inPlace = false;
+    render::BitmapPixels::mayReachInPlace = false;
     const Pixels detour = Draw();
-    render::BitmapPixels::inPlace = true;
+    render::BitmapPixels::mayReachInPlace = true;
     EXPECT_TRUE(Same(detour, direct));
 }
 

@@ -98,8 +98,8 @@ wxBitmap RandomBitmap(int width, int height, unsigned seed)
 class BlendAndWhiten : public testing::TestWithParam<bool>
 {
 protected:
-    void SetUp() override { render::BitmapPixels::inPlace = GetParam(); }
-    void TearDown() override { render::BitmapPixels::inPlace = true; }
+    void SetUp() override { render::BitmapPixels::mayReachInPlace = GetParam(); }
+    void TearDown() override { render::BitmapPixels::mayReachInPlace = true; }
 };
 
 TEST_P(BlendAndWhiten, GivesTheSamePixelsAsTheRowsOfBytesAndLeavesTheLayerWhite)
