@@ -11,6 +11,7 @@
 #include <wx/app.h>
 #include <wx/dcmemory.h>
 #include <wx/log.h>
+#include <wx/progdlg.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -29,57 +30,97 @@ std::unique_ptr<Configuration> Settings(int size, bool layers)
     return settings;
 }
 
-/// Draws one layer with conversions.
-template <class Draw>
-void ConvertingLayer(wxBitmap& map, const wxColour& colour, long alpha, Draw draw)
+/// A map that is made with conversions, in a window of its own: a progress dialog that is told of every row, strips of
+/// 100 rows that are turned into bitmaps, and a bitmap and two images for every layer.
+class ConvertingCreation
 {
-    const int side = map.GetWidth();
-    wxBitmap sheet(side, side);
-    wxMemoryDC dc(sheet);
-    dc.SetBackground(*wxWHITE_BRUSH);
-    dc.Clear();
-    render::SwitchSmoothingOff(dc);
-    dc.SetPen(wxPen(colour, 1));
-    dc.SetBrush(*wxTRANSPARENT_BRUSH);
-    draw(dc);
-    dc.SelectObject(wxNullBitmap);
-    wxImage layer = sheet.ConvertToImage();
-    wxImage under = map.ConvertToImage();
-    const std::size_t bytes = 3 * static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
-    render::BlendLayer({layer.GetData(), bytes}, {under.GetData(), bytes}, side, side,
-                       static_cast<std::uint8_t>(alpha));
-    map = wxBitmap(under);
-}
+public:
+    ConvertingCreation(const Configuration& settings, const MapView& view) : m_settings(settings), m_view(view)
+    {
+        m_frame->SetClientSize(765, 480);
+        m_frame->Show();
+        wxTheApp->Yield(true);
+    }
+    ~ConvertingCreation()
+    {
+        m_frame->Destroy();
+        wxTheApp->Yield(true);
+    }
+    ConvertingCreation(const ConvertingCreation&) = delete;
+    ConvertingCreation& operator=(const ConvertingCreation&) = delete;
 
-wxBitmap ConvertingCreation(const Configuration& settings, const MapView& view)
-{
-    const int side = view.frame.mapSize;
-    const geo::RowSampler rows = render::BaseMapRows(view, render::BuiltInWorld());
-    wxImage base(side, side, false);
-    unsigned char* rgb = base.GetData();
-    for (int y = 0; y < side; ++y)
-        for (int x = 0; x < side; ++x, rgb += 3)
+    const wxBitmap& Create()
+    {
+        m_canvas->mapBitmap = std::make_unique<wxBitmap>(m_view.frame.mapSize, m_view.frame.mapSize);
+        m_canvas->mapReady = true;
+        DrawBaseMap();
+        Layer(m_settings.meridians,
+              [this](wxDC& dc)
+              {
+                  auto segment = [&dc](geo::Pixel from, geo::Pixel to) { dc.DrawLine(from.x, from.y, to.x, to.y); };
+                  render::TraceGridLines(m_view, render::kMeridianGrid, segment);
+              });
+        Layer(m_settings.compass, [this](wxDC& dc) { render::DrawCompass(dc, m_view); });
+        Layer(m_settings.compass.text,
+              [this](wxDC& dc) { render::DrawCompassText(dc, m_view, m_settings.compass.text); });
+        Layer(m_settings.radials, [this](wxDC& dc) { render::DrawRadials(dc, m_view, m_settings.radials.every); });
+        return *m_canvas->mapBitmap;
+    }
+
+private:
+    void DrawBaseMap()
+    {
+        const int side = m_view.frame.mapSize;
+        const geo::RowSampler rows = render::BaseMapRows(m_view, render::BuiltInWorld());
+        wxProgressDialog progress("Kavdex", "Creating Map", side, m_frame, wxPD_APP_MODAL | wxPD_AUTO_HIDE);
+        for (int first = 0; first < side; first += 100)
         {
-            const std::uint32_t pixel = rows.Pixel(x, y);
-            rgb[0] = static_cast<unsigned char>(pixel >> 16);
-            rgb[1] = static_cast<unsigned char>(pixel >> 8);
-            rgb[2] = static_cast<unsigned char>(pixel);
+            const int height = std::min(100, side - first);
+            wxImage strip(side, height, false);
+            unsigned char* rgb = strip.GetData();
+            for (int y = first; y < first + height; ++y)
+            {
+                for (int x = 0; x < side; ++x, rgb += 3)
+                {
+                    const std::uint32_t pixel = rows.Pixel(x, y);
+                    rgb[0] = static_cast<unsigned char>(pixel >> 16);
+                    rgb[1] = static_cast<unsigned char>(pixel >> 8);
+                    rgb[2] = static_cast<unsigned char>(pixel);
+                }
+                progress.Update(y + 1);
+            }
+            wxMemoryDC(*m_canvas->mapBitmap).DrawBitmap(wxBitmap(strip), 0, first);
+            m_canvas->ShowPicture();
         }
-    wxBitmap map(base);
-    const auto layer = [&](const LineStyle& style, auto draw)
-    { ConvertingLayer(map, ColourFromSetting(style.colour), style.alpha, draw); };
-    layer(settings.meridians,
-          [&](wxDC& dc)
-          {
-              auto segment = [&dc](geo::Pixel from, geo::Pixel to) { dc.DrawLine(from.x, from.y, to.x, to.y); };
-              render::TraceGridLines(view, render::kMeridianGrid, segment);
-          });
-    layer(settings.compass, [&](wxDC& dc) { render::DrawCompass(dc, view); });
-    ConvertingLayer(map, ColourFromSetting(settings.compass.text.colour), settings.compass.text.alpha,
-                    [&](wxDC& dc) { render::DrawCompassText(dc, view, settings.compass.text); });
-    layer(settings.radials, [&](wxDC& dc) { render::DrawRadials(dc, view, settings.radials.every); });
-    return map;
-}
+    }
+
+    template <class Style, class Draw>
+    void Layer(const Style& style, Draw draw)
+    {
+        const int side = m_view.frame.mapSize;
+        wxBitmap sheet(side, side);
+        wxMemoryDC dc(sheet);
+        dc.SetBackground(*wxWHITE_BRUSH);
+        dc.Clear();
+        render::SwitchSmoothingOff(dc);
+        dc.SetPen(wxPen(ColourFromSetting(style.colour), 1));
+        dc.SetBrush(*wxTRANSPARENT_BRUSH);
+        draw(dc);
+        dc.SelectObject(wxNullBitmap);
+        wxImage layer = sheet.ConvertToImage();
+        wxImage map = m_canvas->mapBitmap->ConvertToImage();
+        const std::size_t bytes = 3 * static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
+        render::BlendLayer({layer.GetData(), bytes}, {map.GetData(), bytes}, side, side,
+                           static_cast<std::uint8_t>(style.alpha));
+        m_canvas->mapBitmap = std::make_unique<wxBitmap>(map);
+        m_canvas->ShowPicture();
+    }
+
+    const Configuration& m_settings;
+    const MapView& m_view;
+    wxFrame* m_frame = new wxFrame(nullptr, wxID_ANY, "Converting");
+    MapCanvas* m_canvas = new MapCanvas(m_frame);
+};
 
 /// A frame on the screen, destroyed with this.
 struct ShownFrame
@@ -121,7 +162,8 @@ void CreateInTheWindow(benchmark::State& state, bool layers, bool compare)
     if (compare)
     {
         const auto settings = Settings(size, layers);
-        if (!SamePixels(*shown.frame->Picture().mapBitmap, ConvertingCreation(*settings, DefaultView(*settings))))
+        const MapView view = DefaultView(*settings);
+        if (!SamePixels(*shown.frame->Picture().mapBitmap, ConvertingCreation(*settings, view).Create()))
         {
             state.SkipWithError("the pictures differ");
             return;
@@ -153,8 +195,9 @@ void DefaultMapWithConversions(benchmark::State& state)
 {
     const auto settings = Settings(static_cast<int>(state.range(0)), true);
     const MapView view = DefaultView(*settings);
+    ConvertingCreation converting(*settings, view);
     for (auto _ : state)
-        benchmark::DoNotOptimize(ConvertingCreation(*settings, view));
+        benchmark::DoNotOptimize(converting.Create());
 }
 BENCHMARK(DefaultMapWithConversions)->Arg(900)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 BENCHMARK(DefaultMapWithConversions)->Arg(8000)->Iterations(1)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
