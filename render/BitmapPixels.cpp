@@ -7,6 +7,11 @@
 #include <wx/image.h>
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cstring>
+
+static_assert(std::endian::native == std::endian::little, "pixels are packed as little-endian words");
 
 namespace render
 {
@@ -15,6 +20,24 @@ namespace
 unsigned Channel(Argb pixel, int shift)
 {
     return (pixel >> shift) & 255;
+}
+
+/// Writes red, green and blue of every pixel as three bytes; four pixels at a time fill three words.
+void PackRgb(std::span<const Argb> pixels, unsigned char* rgb)
+{
+    const auto bytes = [](Argb pixel) { return Channel(pixel, 16) | Channel(pixel, 8) << 8 | Channel(pixel, 0) << 16; };
+    std::size_t x = 0;
+    for (; x + 4 <= pixels.size(); x += 4, rgb += 12)
+    {
+        const unsigned second = bytes(pixels[x + 1]);
+        const unsigned third = bytes(pixels[x + 2]);
+        const std::array<std::uint32_t, 3> words{bytes(pixels[x]) | second << 24, second >> 8 | third << 16,
+                                                 third >> 16 | bytes(pixels[x + 3]) << 8};
+        std::memcpy(rgb, words.data(), 12);
+    }
+    for (; x < pixels.size(); ++x)
+        for (const int shift : {16, 8, 0})
+            *rgb++ = static_cast<unsigned char>(Channel(pixels[x], shift));
 }
 
 unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
@@ -153,15 +176,10 @@ wxImage ImageOf(wxBitmap& bitmap)
     if (!image.IsOk())
         return image;
     unsigned char* rgb = image.GetData();
-    PreferHugePages(rgb, 3 * static_cast<std::size_t>(pixels.Width()) * static_cast<std::size_t>(pixels.Height()));
-    for (int y = 0; y < pixels.Height(); ++y)
-        for (const Argb pixel : pixels.Row(y))
-        {
-            rgb[0] = static_cast<unsigned char>(Channel(pixel, 16));
-            rgb[1] = static_cast<unsigned char>(Channel(pixel, 8));
-            rgb[2] = static_cast<unsigned char>(Channel(pixel, 0));
-            rgb += 3;
-        }
+    const std::size_t rowBytes = 3 * static_cast<std::size_t>(pixels.Width());
+    PreferHugePages(rgb, rowBytes * static_cast<std::size_t>(pixels.Height()));
+    for (int y = 0; y < pixels.Height(); ++y, rgb += rowBytes)
+        PackRgb(pixels.Row(y), rgb);
     return image;
 }
 

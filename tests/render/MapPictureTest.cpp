@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace
 {
 constexpr render::Argb kBlue = render::OpaquePixel(0, 0, 255);
@@ -75,5 +77,25 @@ TEST(MapPicture, ShowsAnOverlayFlagWithoutABitmapAsNothing)
     picture.greylineBitmap.reset();
     picture.showGreyline = true;
     EXPECT_EQ(Composed(picture), kBlue);
+}
+
+TEST(ImageOf, HasEveryPixelOfTheBitmap)
+{
+    for (const int side : {1, 2, 3, 4, 5, 101})
+    {
+        wxBitmap bitmap(side, side);
+        {
+            const render::BitmapPixels pixels(bitmap);
+            for (int y = 0; y < side; ++y)
+                for (int x = 0; x < side; ++x)
+                    pixels.Row(y)[static_cast<std::size_t>(x)] =
+                        0xFF000000U | static_cast<unsigned>((y * side + x + 1) * 7919);
+        }
+        const wxImage image = render::ImageOf(bitmap);
+        const wxImage converted = bitmap.ConvertToImage();
+        ASSERT_EQ(image.GetSize(), converted.GetSize());
+        EXPECT_EQ(0, std::memcmp(image.GetData(), converted.GetData(), static_cast<std::size_t>(3 * side * side)))
+            << side;
+    }
 }
 } // namespace
