@@ -4,22 +4,29 @@
 
 namespace render
 {
-WorldPicture::WorldPicture(const wxImage& image)
-    : m_width(image.GetWidth()),
-      m_height(image.GetHeight()),
-      m_pixels(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
+namespace
 {
+PixelGrid PixelsOf(const wxImage& image)
+{
+    const int width = image.GetWidth();
+    const int height = image.GetHeight();
+    PixelGrid grid{width, height,
+                   std::vector<Argb>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height))};
     const unsigned char* rgb = image.GetData();
-    for (Argb& pixel : m_pixels)
+    for (Argb& pixel : grid.pixels)
     {
         pixel = OpaquePixel(rgb[0], rgb[1], rgb[2]);
         rgb += 3;
     }
+    return grid;
 }
+} // namespace
+
+WorldPicture::WorldPicture(const wxImage& image) : WorldPicture(PixelsOf(image)) {}
 
 const WorldPicture& BuiltInWorld()
 {
-    static const WorldPicture world{wxImage(world_xpm)};
+    static const WorldPicture world{UnpackXpm(world_xpm)};
     return world;
 }
 

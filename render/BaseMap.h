@@ -1,12 +1,12 @@
 #pragma once
 
 #include "geo/RowSampler.h"
-#include "render/BitmapPixels.h"
+#include "render/CompiledPicture.h"
 #include "render/MapView.h"
 
 #include <wx/image.h>
 
-#include <vector>
+#include <utility>
 
 namespace render
 {
@@ -18,16 +18,17 @@ public:
     /// @param[in] image valid, of any size; its opacity does not count.
     explicit WorldPicture(const wxImage& image);
 
+    /// @param[in] pixels at least one.
+    explicit WorldPicture(PixelGrid pixels) : m_grid(std::move(pixels)) {}
+
     /// Its pixels as cells of the globe; what lies just beyond them is black.
     geo::WorldCells Cells() const
     {
-        return geo::WorldCells::Filling(m_pixels.data(), m_width, m_height, OpaquePixel(0, 0, 0));
+        return geo::WorldCells::Filling(m_grid.pixels.data(), m_grid.width, m_grid.height, OpaquePixel(0, 0, 0));
     }
 
 private:
-    int m_width;
-    int m_height;
-    std::vector<Argb> m_pixels;
+    PixelGrid m_grid;
 };
 
 /// The picture that is built in, 720 x 360 pixels, from Natural Earth.

@@ -22,22 +22,20 @@ unsigned Channel(Argb pixel, int shift)
     return (pixel >> shift) & 255;
 }
 
-/// Writes red, green and blue of every pixel as three bytes; four pixels at a time fill three words.
+/// Writes red, green and blue of every pixel as three bytes.
 void PackRgb(std::span<const Argb> pixels, unsigned char* rgb)
 {
-    const auto bytes = [](Argb pixel) { return Channel(pixel, 16) | Channel(pixel, 8) << 8 | Channel(pixel, 0) << 16; };
-    std::size_t x = 0;
-    for (; x + 4 <= pixels.size(); x += 4, rgb += 12)
+    if (pixels.empty())
+        return;
+    // A word of four bytes a pixel; the next pixel overwrites the one too many.
+    for (const Argb pixel : pixels.first(pixels.size() - 1))
     {
-        const unsigned second = bytes(pixels[x + 1]);
-        const unsigned third = bytes(pixels[x + 2]);
-        const std::array<std::uint32_t, 3> words{bytes(pixels[x]) | second << 24, second >> 8 | third << 16,
-                                                 third >> 16 | bytes(pixels[x + 3]) << 8};
-        std::memcpy(rgb, words.data(), 12);
+        const Argb word = __builtin_bswap32(pixel) >> 8;
+        std::memcpy(rgb, &word, sizeof word);
+        rgb += 3;
     }
-    for (; x < pixels.size(); ++x)
-        for (const int shift : {16, 8, 0})
-            *rgb++ = static_cast<unsigned char>(Channel(pixels[x], shift));
+    for (const int shift : {16, 8, 0})
+        *rgb++ = static_cast<unsigned char>(Channel(pixels.back(), shift));
 }
 
 unsigned char Unpremultiplied(unsigned channel, unsigned alpha)

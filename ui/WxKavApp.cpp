@@ -2,7 +2,6 @@
 
 #include "config/Configuration.h"
 #include "config/SettingsFile.h"
-#include "render/BaseMap.h"
 #include "resources/icons/window.xpm"
 #include "ui/BatchRender.h"
 #include "ui/WxKavFrame.h"
@@ -56,8 +55,6 @@ bool WxKavApp::OnInit()
     frame->SetTitle(wxGetTranslation("Kavmap V3.1.9 Linux QQ0QQQ"));
     frame->SetIcon(wxIcon(icon_window));
     frame->Show();
-    // Unpacked once the window is there, so that the first "Create" finds it ready.
-    CallAfter([] { render::BuiltInWorld(); });
     return true;
 }
 
