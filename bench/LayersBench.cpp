@@ -19,7 +19,7 @@
 #include <functional>
 #include <random>
 
-// Each layer from the white sheet to the blended map. Needs a display.
+// Each layer from the blank sheet to the blended map. Needs a display.
 
 namespace
 {
@@ -45,12 +45,12 @@ bool IsWhite(wxBitmap& map)
     return true;
 }
 
-void DrawOneLayer(benchmark::State& state, const Draw& draw)
+void DrawOneLayer(benchmark::State& state, const Draw& draw, render::Inks inks)
 {
     const int size = static_cast<int>(state.range(0));
     const MapView view = BenchView(size);
     const auto map = render::NewWhiteBitmap(size);
-    render::Layer layer(size);
+    render::Layer layer(size, inks);
     for (auto _ : state)
     {
         wxDC& dc = layer.Begin(*wxBLACK, 1);
@@ -134,9 +134,9 @@ Draw Squares(const wxString& path)
     { render::DrawPlottedSquares(dc, view, *render::ReadTextFile(path), PlotSquaresSlot()); };
 }
 
-void Register(const char* name, const Draw& draw)
+void Register(const char* name, const Draw& draw, render::Inks inks = render::Inks::One)
 {
-    benchmark::RegisterBenchmark(name, [draw](benchmark::State& state) { DrawOneLayer(state, draw); })
+    benchmark::RegisterBenchmark(name, [draw, inks](benchmark::State& state) { DrawOneLayer(state, draw, inks); })
         ->Arg(900)
         ->Arg(4000)
         ->Unit(benchmark::kMillisecond);
@@ -160,7 +160,7 @@ const bool kRegistered = []
              });
     Register("Radials", [](wxDC& dc, const MapView& view) { render::DrawRadials(dc, view, 0); });
     Register("RangeCircles", Circles(false));
-    Register("PlottedSquares", Squares(data + "sample.log"));
+    Register("PlottedSquares", Squares(data + "sample.log"), render::Inks::Many);
 
     Register("RangeCirclesWithLegend", Circles(true));
     Register("FieldLabels", [](wxDC& dc, const MapView& view) { render::DrawFieldLabels(dc, view, Style()); });

@@ -25,6 +25,11 @@ constexpr unsigned BlendChannel(unsigned map, unsigned layer, unsigned alpha)
 void BlendLayer(std::span<const std::uint8_t> layer, std::span<std::uint8_t> map, int width, int height,
                 std::uint8_t alpha);
 
-/// The same on the pixels of two opaque bitmaps of one size. The layer is left white, ready for the next.
-void BlendAndWhiten(const BitmapPixels& layer, const BitmapPixels& map, std::uint8_t alpha);
+/// The same for a pixel of an opaque map and one of a layer that is not white.
+constexpr Argb BlendPixel(Argb map, Argb layer, unsigned alpha)
+{
+    const auto channel = [=](int shift)
+    { return BlendChannel((map >> shift) & 255, (layer >> shift) & 255, alpha) << shift; };
+    return 0xFF000000U | channel(16) | channel(8) | channel(0);
+}
 } // namespace render

@@ -1,12 +1,17 @@
 #include "render/ChainStroker.h"
 
+#include "render/Layer.h"
+
 #include <wx/graphics.h>
 
 #include <algorithm>
 
 namespace render
 {
-ChainStroker::ChainStroker(wxDC& dc) : m_dc(dc), m_reach(std::max(dc.GetPen().GetWidth(), 1)), m_size(dc.GetSize()) {}
+ChainStroker::ChainStroker(wxDC& dc)
+    : m_dc(dc), m_reach(std::max(dc.GetPen().GetWidth(), 1)), m_size(DrawableArea(dc).GetSize())
+{
+}
 
 void ChainStroker::operator()(geo::Pixel from, geo::Pixel to)
 {

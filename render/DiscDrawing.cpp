@@ -2,6 +2,8 @@
 
 #include "geo/Angles.h"
 
+#include <wx/graphics.h>
+
 #include <cmath>
 
 namespace render
@@ -19,6 +21,10 @@ void DrawNumberAlongCircle(wxDC& dc, const DiscGeometry& disc, long number, doub
     const wxString text = wxString::Format("%ld", number);
     const double shift = std::atan2(dc.GetTextExtent(text).y, radius) * geo::kDegPerRad / 2.5;
     const geo::Pixel anchor = disc.At(bearingDeg - shift, anchorRadius);
+    // The rotation is taken back by the opposite one, which would leave a rounding error for the texts to come.
+    wxGraphicsContext* const context = dc.GetGraphicsContext();
+    context->PushState();
     dc.DrawRotatedText(text, anchor.x, anchor.y, 360 - bearingDeg);
+    context->PopState();
 }
 } // namespace render

@@ -1,5 +1,7 @@
 #include "render/LabelBox.h"
 
+#include "render/Layer.h"
+
 #include <wx/graphics.h>
 
 #include <array>
@@ -20,7 +22,7 @@ void DrawLabel(wxDC& dc, const wxString& text, const wxRect& box)
     // Letters may reach over the edge of their box.
     const wxRect ink = wxRect(box).Inflate(box.height);
     // The drawing context itself would measure the text once more.
-    if (ink.Intersects(wxRect(dc.GetSize())))
+    if (ink.Intersects(DrawableArea(dc)))
         dc.GetGraphicsContext()->DrawText(text, box.x, box.y);
 }
 } // namespace render

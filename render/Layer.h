@@ -2,30 +2,40 @@
 
 #include <wx/bitmap.h>
 #include <wx/colour.h>
-#include <wx/dcmemory.h>
+#include <wx/dcgraph.h>
 #include <wx/image.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 
 namespace render
 {
+/// In how many colours a layer is drawn.
+enum class Inks
+{
+    One,  ///< in that of Begin() alone: all that is kept is which pixels are marked
+    Many, ///< in any
+};
+
 /**
- * The white sheet on which a layer is drawn before it is blended onto the map. One sheet serves all layers of a map.
+ * The sheet on which a layer is drawn before it is blended onto the map. It can serve one layer after the other.
  *
- * Begin(), draw, BlendOnto(); what is white is transparent.
+ * Begin(), draw, BlendOnto(); what is not drawn on, or is drawn in white, is transparent.
  */
 class Layer
 {
 public:
     /// @param[in] side side of the map in pixels.
-    explicit Layer(int side);
+    explicit Layer(int side, Inks inks = Inks::One);
 
     /// False when there was not enough memory: then nothing can be drawn.
     bool IsOk() const { return m_sheet != nullptr; }
 
+    Inks Kind() const { return m_inks; }
+
     /**
-     * Starts a layer on the white sheet.
+     * Starts a layer on the blank sheet.
      *
      * @return a drawing context with a solid pen of the colour and width, a transparent brush and texts on a
      * transparent ground. Shapes and texts are drawn without smoothing, so that they leave exactly their own colour:
@@ -35,21 +45,35 @@ public:
     wxDC& Begin(const wxColour& colour, int lineWidth);
 
     /**
-     * Ends the layer: blends it onto the map, of the same size, and leaves the sheet white again.
+     * Ends the layer: blends it onto the map, of the same size, and leaves the sheet blank again.
      *
-     * @return false, with nothing done, where the pixels of bitmaps can't be reached in place; then TakeImage() ends
+     * @return false, with nothing done, where the pixels of the map can't be reached in place; then TakeImage() ends
      *         the layer.
      */
     bool BlendOnto(wxBitmap& map, std::uint8_t alpha);
 
-    /// Ends the layer: returns it as an image and leaves the sheet white again.
+    /// Ends the layer: returns it as an image, white where nothing is drawn, and leaves the sheet blank again.
     wxImage TakeImage();
 
 private:
-    std::unique_ptr<wxBitmap> m_sheet;
-    wxMemoryDC m_dc;
+    template <class Visit>
+    void TakeMarks(Visit visit);
+
+    struct Destroy
+    {
+        void operator()(struct _cairo_surface* surface) const;
+    };
+
+    int m_side;
+    Inks m_inks;
+    wxColour m_colour;
+    std::unique_ptr<struct _cairo_surface, Destroy> m_sheet;
+    std::unique_ptr<wxGCDC> m_dc;
 };
 
 /// Makes a drawing context on a bitmap draw shapes and texts without smoothing.
 void SwitchSmoothingOff(wxDC& dc);
+
+/// What a drawing context can draw on: its picture, in pixels.
+wxRect DrawableArea(const wxDC& dc);
 } // namespace render

@@ -4,6 +4,7 @@
 #include "render/Style.h"
 #include "ui/Ids.h"
 
+#include <wx/dcmemory.h>
 #include <wx/log.h>
 #include <wx/progdlg.h>
 

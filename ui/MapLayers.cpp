@@ -125,8 +125,9 @@ void WxKavFrame::DrawPlottedSquares(const PlotSquaresSlot& slot)
 {
     const auto text = HasMap() ? render::ReadTextFile(slot.file) : std::nullopt;
     if (text)
-        DrawLayer("Hatching Squares...", ColourFromSetting(slot.borderColour), slot.alpha, 1,
-                  [&](wxDC& dc) { render::DrawPlottedSquares(dc, *m_view, *text, slot); });
+        DrawLayer(
+            "Hatching Squares...", ColourFromSetting(slot.borderColour), slot.alpha, 1,
+            [&](wxDC& dc) { render::DrawPlottedSquares(dc, *m_view, *text, slot); }, render::Inks::Many);
 }
 
 bool WxKavFrame::HasMapOrError(const wxString& text)
@@ -150,22 +151,23 @@ void WxKavFrame::DrawTexts(const wxString& statusText, const TextStyle& style, c
 }
 
 void WxKavFrame::DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
-                           const Drawing& draw)
+                           const Drawing& draw, render::Inks inks)
 {
-    if (wxDC* const dc = BeginLayer(statusText, colour, alpha, lineWidth))
+    if (wxDC* const dc = BeginLayer(statusText, colour, alpha, lineWidth, inks))
     {
         draw(*dc);
         EndLayer(alpha);
     }
 }
 
-wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth)
+wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
+                             render::Inks inks)
 {
     ShowStep(statusText);
     if (static_cast<std::uint8_t>(alpha) == 0)
         return nullptr; // nothing of it would be seen
-    if (!m_layer)
-        m_layer.emplace(m_view->frame.mapSize);
+    if (!m_layer || m_layer->Kind() != inks)
+        m_layer.emplace(m_view->frame.mapSize, inks);
     if (!m_layer->IsOk())
     {
         wxLogError("Not enough memory for a layer: %s", statusText);

@@ -18,7 +18,7 @@ namespace ui
 wxBitmap SquaresPreview(const PlotSquaresSlot& style)
 {
     wxBitmap map(wxImage(preview_map_xpm), 24);
-    render::Layer layer(map.GetWidth());
+    render::Layer layer(map.GetWidth(), render::Inks::Many);
     const wxColour border = ColourFromSetting(style.borderColour);
     wxDC& dc = layer.Begin(border, 1);
     const render::Hatch hatch(style.stipple, ColourFromSetting(style.fillColour), border);

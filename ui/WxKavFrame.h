@@ -100,9 +100,11 @@ private:
     // One layer: named in the status bar, drawn on a white sheet, blended. Of an opacity the low eight bits count.
     using Drawing = std::function<void(wxDC& dc)>;
     using TextDrawing = std::function<void(wxDC& dc, const MapView& view, const TextStyle& style)>;
-    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth);
+    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
+                     render::Inks inks = render::Inks::One);
     void EndLayer(long alpha);
-    void DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth, const Drawing& draw);
+    void DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth, const Drawing& draw,
+                   render::Inks inks = render::Inks::One);
     void DrawLines(const wxString& statusText, const LineStyle& style, const Drawing& draw);
     void DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw);
     void DrawGrid(const LineStyle& style, const render::GridSpec& grid);

@@ -1,11 +1,9 @@
 #include "render/Blend.h"
 
-#include "tests/support/Pictures.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <random>
+#include <vector>
 
 namespace
 {
@@ -83,50 +81,9 @@ TEST(BlendLayer, CopesWithPicturesThatAreAllFrame)
     EXPECT_THAT(map, Each(9));
 }
 
-/// A bitmap of random colours, a third of them white.
-wxBitmap RandomBitmap(int width, int height, unsigned seed)
+TEST(BlendPixel, BlendsEachChannelAndStaysOpaque)
 {
-    std::mt19937 random(seed);
-    wxBitmap bitmap(width, height);
-    const render::BitmapPixels pixels(bitmap);
-    for (int y = 0; y < height; ++y)
-        for (render::Argb& pixel : pixels.Row(y))
-            pixel = random() % 3 == 0 ? render::kWhite : 0xFF000000U | (random() & 0xFFFFFF);
-    return bitmap;
+    EXPECT_EQ(render::BlendPixel(render::OpaquePixel(200, 100, 50), render::OpaquePixel(0, 255, 7), 44),
+              render::OpaquePixel(200 * 211 / 256, 100 * 211 / 256 + 255 * 44 / 256, 50 * 211 / 256 + 7 * 44 / 256));
 }
-
-class BlendAndWhiten : public testing::TestWithParam<bool>
-{
-protected:
-    void SetUp() override { render::BitmapPixels::mayReachInPlace = GetParam(); }
-    void TearDown() override { render::BitmapPixels::mayReachInPlace = true; }
-};
-
-TEST_P(BlendAndWhiten, GivesTheSamePixelsAsTheRowsOfBytesAndLeavesTheLayerWhite)
-{
-    constexpr int kWidth = 37;
-    constexpr int kHeight = 23;
-    for (const unsigned alpha : {0U, 1U, 44U, 128U, 254U, 255U})
-    {
-        wxBitmap layer = RandomBitmap(kWidth, kHeight, 1);
-        wxBitmap map = RandomBitmap(kWidth, kHeight, 2);
-        wxImage layerImage = layer.ConvertToImage();
-        wxImage mapImage = map.ConvertToImage();
-        const std::size_t bytes = 3 * kWidth * kHeight;
-        render::BlendLayer({layerImage.GetData(), bytes}, {mapImage.GetData(), bytes}, kWidth, kHeight,
-                           static_cast<std::uint8_t>(alpha));
-        {
-            const render::BitmapPixels layerPixels(layer);
-            const render::BitmapPixels mapPixels(map);
-            render::BlendAndWhiten(layerPixels, mapPixels, static_cast<std::uint8_t>(alpha));
-        }
-        wxBitmap expected(mapImage);
-        EXPECT_TRUE(SamePicture(ColoursOf(map), ColoursOf(expected))) << "alpha " << alpha;
-        for (const auto& row : ColoursOf(layer))
-            EXPECT_THAT(row, Each(render::kWhite)) << "alpha " << alpha;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(PixelsReached, BlendAndWhiten, testing::Bool(),
-                         [](const auto& param) { return param.param ? "InPlace" : "ThroughImages"; });
 } // namespace

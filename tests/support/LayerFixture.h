@@ -87,7 +87,7 @@ protected:
             for (int y = 0; y < side; ++y)
                 std::ranges::fill(pixels.Row(y), Ink::kGround);
         }
-        render::Layer layer(side);
+        render::Layer layer(side, render::Inks::Many);
         draw(layer.Begin(colour, lineWidth));
         layer.BlendOnto(*map, 255);
         Ink ink(*map);
