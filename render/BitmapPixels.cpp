@@ -43,14 +43,6 @@ unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
     return static_cast<unsigned char>(alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha);
 }
 
-void PreferHugePagesOf(cairo_surface_t* surface)
-{
-    if (cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE)
-        PreferHugePages(cairo_image_surface_get_data(surface),
-                        static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) *
-                            static_cast<std::size_t>(cairo_image_surface_get_height(surface)));
-}
-
 std::unique_ptr<wxBitmap> NewBitmap(int side, int depth)
 {
     auto bitmap = std::make_unique<wxBitmap>(side, side, depth);

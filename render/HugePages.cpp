@@ -1,5 +1,7 @@
 #include "render/HugePages.h"
 
+#include <cairo.h>
+
 #include <cstdint>
 #include <sys/mman.h>
 
@@ -13,5 +15,13 @@ void PreferHugePages(void* memory, std::size_t bytes)
     const std::uintptr_t end = (begin + bytes) / kHugePage * kHugePage;
     if (first < end)
         madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+}
+
+void PreferHugePagesOf(cairo_surface_t* surface)
+{
+    if (cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE)
+        PreferHugePages(cairo_image_surface_get_data(surface),
+                        static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) *
+                            static_cast<std::size_t>(cairo_image_surface_get_height(surface)));
 }
 } // namespace render

@@ -9,4 +9,7 @@ namespace render
  * of the time. Only advice: nothing else changes, and systems without huge pages ignore it.
  */
 void PreferHugePages(void* memory, std::size_t bytes);
+
+/// The same for the memory of a drawing surface, if it is memory.
+void PreferHugePagesOf(struct _cairo_surface* surface);
 } // namespace render

@@ -2,11 +2,12 @@
 
 #include "render/BitmapPixels.h"
 #include "render/Blend.h"
+#include "render/HugePages.h"
 
 #include <cairo.h>
 #include <wx/graphics.h>
 
-#include <bit>
+#include <algorithm>
 #include <span>
 #include <utility>
 
@@ -14,23 +15,37 @@ namespace render
 {
 namespace
 {
-static_assert(std::endian::native == std::endian::little, "the first pixel of a word of marks is its lowest bit");
-
 constexpr cairo_format_t FormatFor(Inks inks)
 {
-    // A bit or a word a pixel. Blank is 0 in both, so memory that is never drawn on is never touched.
-    return inks == Inks::One ? CAIRO_FORMAT_A1 : CAIRO_FORMAT_ARGB32;
+    // A byte or a word a pixel; blank is 0 in both. (A bit a pixel is quicker to blend, but slow to draw long lines
+    // on.)
+    return inks == Inks::One ? CAIRO_FORMAT_A8 : CAIRO_FORMAT_ARGB32;
 }
 
-/// Visits the pixels whose bit is set, and clears them.
-template <class Visit>
-void TakeBits(std::span<std::uint32_t> words, Visit visit)
+/// Most of a layer is blank: it is passed over so many pixels at a time.
+constexpr std::size_t kBlock = 64;
+
+template <class Pixel>
+bool IsBlockBlank(const Pixel* pixels)
 {
-    for (std::size_t i = 0; i < words.size(); ++i)
+    Pixel any = 0;
+    for (std::size_t i = 0; i < kBlock; ++i)
+        any |= pixels[i];
+    return any == 0;
+}
+
+/// Calls visit(x, pixel) for the pixels that are not blank, and makes them blank.
+template <class Pixel, class Visit>
+void TakePixels(std::span<Pixel> row, Visit visit)
+{
+    for (std::size_t block = 0; block < row.size(); block += kBlock)
     {
-        for (std::uint32_t bits = words[i]; bits != 0; bits &= bits - 1)
-            visit(32 * i + static_cast<std::size_t>(std::countr_zero(bits)));
-        words[i] = 0;
+        const std::size_t end = std::min(block + kBlock, row.size());
+        if (end - block == kBlock && IsBlockBlank(&row[block]))
+            continue;
+        for (std::size_t x = block; x < end; ++x)
+            if (const Pixel pixel = std::exchange(row[x], Pixel{0}))
+                visit(x, pixel);
     }
 }
 
@@ -53,7 +68,9 @@ void Layer::Destroy::operator()(cairo_surface_t* surface) const
 Layer::Layer(int side, Inks inks)
     : m_side(side), m_inks(inks), m_sheet(cairo_image_surface_create(FormatFor(inks), side, side))
 {
-    if (cairo_surface_status(m_sheet.get()) != CAIRO_STATUS_SUCCESS)
+    if (cairo_surface_status(m_sheet.get()) == CAIRO_STATUS_SUCCESS)
+        PreferHugePagesOf(m_sheet.get());
+    else
         m_sheet.reset();
 }
 
@@ -74,23 +91,20 @@ void Layer::TakeMarks(Visit visit)
 {
     m_dc.reset();
     cairo_surface_flush(m_sheet.get());
-    auto* const first = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(m_sheet.get()));
-    const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(m_sheet.get())) / sizeof *first;
+    unsigned char* row = cairo_image_surface_get_data(m_sheet.get());
     const Argb ink = OpaquePixel(m_colour.Red(), m_colour.Green(), m_colour.Blue());
-    for (int y = 0; y < m_side; ++y)
+    for (int y = 0; y < m_side; ++y, row += cairo_image_surface_get_stride(m_sheet.get()))
     {
-        const std::span row(first + static_cast<std::size_t>(y) * stride, stride);
         const auto mark = [&](std::size_t x, Argb colour)
         {
             if (colour != kWhite)
                 visit(static_cast<int>(x), y, colour);
         };
+        const auto side = static_cast<std::size_t>(m_side);
         if (m_inks == Inks::One)
-            TakeBits(row, [&](std::size_t x) { mark(x, ink); });
+            TakePixels(std::span(row, side), [&](std::size_t x, std::uint8_t) { mark(x, ink); });
         else
-            for (std::size_t x = 0; x < row.size(); ++x)
-                if (const Argb colour = std::exchange(row[x], 0))
-                    mark(x, colour);
+            TakePixels(std::span(reinterpret_cast<Argb*>(row), side), mark);
     }
     cairo_surface_mark_dirty(m_sheet.get());
 }
