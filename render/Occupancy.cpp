@@ -45,13 +45,22 @@ bool Occupancy::MeetsTaken(int left, int top, int right, int bottom) const
     return false;
 }
 
-void Occupancy::Mark(wxRect area)
+void Occupancy::Mark(const wxRect& box)
 {
-    area.Intersect(m_picture);
-    for (int y = area.y; y < area.y + area.height; ++y)
-    {
-        const auto row = m_taken.begin() + static_cast<std::ptrdiff_t>(Index(m_picture, area.x, y));
-        std::fill_n(row, area.width, true);
-    }
+    MarkRun(box.GetLeft(), box.GetRight(), box.GetTop());
+    MarkRun(box.GetLeft(), box.GetRight(), box.GetBottom());
+    const int last = std::min(box.GetBottom(), m_picture.GetBottom());
+    for (int y = std::max(box.GetTop(), 0); y <= last; ++y)
+        for (const int x : {box.GetLeft(), box.GetRight()})
+            MarkRun(x, x, y);
+}
+
+void Occupancy::MarkRun(int left, int right, int y)
+{
+    if (y < 0 || y >= m_picture.height)
+        return;
+    const int last = std::min(right, m_picture.GetRight());
+    for (int x = std::max(left, 0); x <= last; ++x)
+        m_taken[Index(m_picture, x, y)] = true;
 }
 } // namespace render

@@ -16,7 +16,7 @@ public:
     /**
      * Takes the box of a label, with two pixels around it, unless it meets one that was taken before.
      *
-     * Only the outline is looked at: a small box inside a larger one is free. So is what lies outside the picture.
+     * Only outlines are looked at: a small box inside a larger one is free. So is what lies outside the picture.
      *
      * @return whether the box was free and is taken now.
      */
@@ -25,7 +25,8 @@ public:
 private:
     bool IsTaken(int x, int y) const;
     bool MeetsTaken(int left, int top, int right, int bottom) const;
-    void Mark(wxRect area);
+    void Mark(const wxRect& box);
+    void MarkRun(int left, int right, int y);
 
     wxRect m_picture;
     std::vector<bool> m_taken;

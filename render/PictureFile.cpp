@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <sys/stat.h>
 #include <utility>
 
@@ -32,6 +33,13 @@ bool TakePlaceOf(const wxString& path, const wxString& complete)
     const bool exists = stat(path.fn_str(), &older) == 0;
     return chmod(complete.fn_str(), exists ? older.st_mode & 0777 : 0666 & ~mask) == 0 &&
            std::rename(complete.fn_str(), path.fn_str()) == 0;
+}
+/// Where a name leads to: a link stays a link.
+wxString Resolved(const wxString& path)
+{
+    std::error_code failed;
+    const auto place = std::filesystem::weakly_canonical(static_cast<const char*>(path.fn_str()), failed);
+    return failed ? path : wxString(place.c_str(), *wxConvFileName);
 }
 } // namespace
 
@@ -59,10 +67,11 @@ bool SavePicture(wxImage picture, const wxString& path)
     }
     picture.SetOption(wxIMAGE_OPTION_QUALITY, 90);
     // Written beside the target and renamed, so that a failure leaves an older picture alone.
-    const wxString beside = wxFileName::CreateTempFileName(path);
+    const wxString target = Resolved(path);
+    const wxString beside = wxFileName::CreateTempFileName(target);
     if (beside.empty())
         return false;
-    if (WritePicture(picture, beside, *PictureTypeOf(path)) && TakePlaceOf(path, beside))
+    if (WritePicture(picture, beside, *PictureTypeOf(path)) && TakePlaceOf(target, beside))
         return true;
     wxRemoveFile(beside);
     wxLogError("Couldn't write the picture %s", path);

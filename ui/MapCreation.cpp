@@ -42,6 +42,7 @@ bool WxKavFrame::CreateMap()
     if (m_settings->size < render::kMinMapSize || m_settings->size > render::kMaxMapSize)
     {
         ShowError("Size must be between 100 and 8000 pixels.\nIt might fail with large pixel values.");
+        EnableCreationTools(true);
         return false;
     }
     BeginCreation();
@@ -71,10 +72,16 @@ void WxKavFrame::BeginCreation()
     m_canvas->mapReady = false;
     ShowStep("Creating Map");
     SetStatusText("", 1);
-    for (const int id : {ui::kIdCreate, ui::kIdSave, ui::kIdOptions})
-        m_toolBar->EnableTool(id, false);
+    EnableCreationTools(false);
     m_greylineTimer.Stop();
     m_propagationTimer.Stop();
+    m_layer.reset();
+}
+
+void WxKavFrame::EnableCreationTools(bool enable)
+{
+    for (const int id : {ui::kIdCreate, ui::kIdSave, ui::kIdOptions})
+        m_toolBar->EnableTool(id, enable);
 }
 
 bool WxKavFrame::NewMap()
@@ -141,7 +148,7 @@ void WxKavFrame::FinishCreation()
     m_layer.reset();
     ShowStep("Finished...");
     m_canvas->mapReady = true;
-    for (const int id : {ui::kIdCreate, ui::kIdSave, ui::kIdOptions, ui::kIdGreyline})
-        m_toolBar->EnableTool(id, true);
+    EnableCreationTools(true);
+    m_toolBar->EnableTool(ui::kIdGreyline, true);
     m_toolBar->ToggleTool(ui::kIdGreyline, m_settings->greyzone.show);
 }

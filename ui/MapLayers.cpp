@@ -153,19 +153,16 @@ void WxKavFrame::DrawTexts(const wxString& statusText, const TextStyle& style, c
 void WxKavFrame::DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
                            const Drawing& draw, render::Inks inks)
 {
-    if (wxDC* const dc = BeginLayer(statusText, colour, alpha, lineWidth, inks))
+    if (wxDC* const dc = BeginLayer(statusText, colour, lineWidth, inks))
     {
         draw(*dc);
         EndLayer(alpha);
     }
 }
 
-wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
-                             render::Inks inks)
+wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth, render::Inks inks)
 {
     ShowStep(statusText);
-    if (static_cast<std::uint8_t>(alpha) == 0)
-        return nullptr; // nothing of it would be seen
     if (!m_layer || m_layer->Kind() != inks)
         m_layer.emplace(m_view->frame.mapSize, inks);
     if (!m_layer->IsOk())

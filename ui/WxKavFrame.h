@@ -28,8 +28,8 @@ public:
     /**
      * Creates the map that the settings describe: base picture, layers, overlays.
      *
-     * A size that cannot be made leaves everything as it was. Any other error that stops the creation leaves the tools
-     * for creating, saving and options disabled and the timers stopped.
+     * A size that cannot be made leaves the map as it was, and the tools enabled. Any other error that stops the
+     * creation leaves the tools for creating, saving and options disabled and the timers stopped.
      *
      * @return whether the map was finished.
      */
@@ -90,6 +90,7 @@ private:
     // Creating a map, in this order.
     void TakeCentreFromLocatorField();
     void BeginCreation();
+    void EnableCreationTools(bool enable); ///< those for creating, saving and options
     bool NewMap();
     bool DrawBaseMaps();
     void ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& map, bool showProgress);
@@ -100,7 +101,7 @@ private:
     // One layer: named in the status bar, drawn on a white sheet, blended. Of an opacity the low eight bits count.
     using Drawing = std::function<void(wxDC& dc)>;
     using TextDrawing = std::function<void(wxDC& dc, const MapView& view, const TextStyle& style)>;
-    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
+    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth,
                      render::Inks inks = render::Inks::One);
     void EndLayer(long alpha);
     void DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth, const Drawing& draw,

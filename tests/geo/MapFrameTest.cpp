@@ -31,6 +31,7 @@ TEST(MapFrame, TruncatesPixelsTowardZero)
     const MapFrame frame(900, 20000000, 10);
     const double scale = frame.metresPerPixel;
     EXPECT_EQ(frame.MapToPixel(-0.7 * scale, 0.0), (geo::Pixel{449, 450}));
+    EXPECT_EQ(frame.MapToPixel(-1.2 * scale, 0.0), (geo::Pixel{448, 450}));
     EXPECT_EQ(frame.MapToPixel(0.7 * scale, -0.7 * scale), (geo::Pixel{450, 450}));
     EXPECT_EQ(frame.MapToPixel(-450.7 * scale, 450.7 * scale), (geo::Pixel{0, 0}));
     EXPECT_EQ(frame.MapToPixel(-451.2 * scale, 451.2 * scale), (geo::Pixel{-1, -1}));

@@ -29,14 +29,14 @@ TEST(Occupancy, TakesAPlaceOnce)
     EXPECT_TRUE(occupancy.Take({120, 50, 40, 10}));
 }
 
-TEST(Occupancy, LeavesASmallBoxInsideALargeOneFreeOnlyIfItsOutlineIs)
+TEST(Occupancy, LooksOnlyAtOutlines)
 {
     render::Occupancy occupancy(200);
     ASSERT_TRUE(occupancy.Take({100, 100, 10, 10}));
-    // The outline of a box around it meets nothing.
-    EXPECT_TRUE(occupancy.Take({50, 50, 100, 100}));
-    // What is taken is filled, so a box inside meets it.
+    EXPECT_TRUE(occupancy.Take({50, 50, 100, 100})); // around it
+    EXPECT_TRUE(occupancy.Take({60, 60, 10, 10}));   // inside that
     EXPECT_FALSE(occupancy.Take({60, 60, 10, 10}));
+    EXPECT_FALSE(occupancy.Take({45, 60, 10, 10})); // across its edge
 }
 
 TEST(Occupancy, LooksOnePixelFartherThanItTakes)

@@ -77,9 +77,13 @@ TEST_F(MapCreationTest, HappensOnceAClick)
 
 TEST_F(MapCreationTest, TakesSizesFrom100To8000)
 {
-    settings->size = 100;
-    Create();
-    EXPECT_TRUE(frame->Picture().mapBitmap);
+    for (const int size : {100, 8000})
+    {
+        settings->size = size;
+        Create();
+        ASSERT_TRUE(frame->Picture().mapBitmap);
+        EXPECT_EQ(frame->Picture().mapBitmap->GetWidth(), size);
+    }
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
@@ -134,13 +138,23 @@ TEST_F(MapCreationTest, TakesNoTruncatedPicture)
     ExpectStoppedWith("Error creating bitmap in function OnCreateMap1");
 }
 
-TEST_F(MapCreationTest, CanBeTriedAgainFromTheMenuAfterAStop)
+TEST_F(MapCreationTest, CanBeTriedAgainAfterAStop)
 {
     settings->sourceBitmaps[0] = {true, "no such picture.png"};
     Create();
     settings->sourceBitmaps[0].show = false;
     EXPECT_TRUE(frame->CreateMap());
     EXPECT_TRUE(Tools().GetToolEnabled(1003));
+}
+
+TEST_F(MapCreationTest, EnablesTheToolsAgainAfterASizeErrorEvenIfItWasStoppedBefore)
+{
+    settings->sourceBitmaps[0] = {true, "no such picture.png"};
+    Create();
+    settings->size = 99;
+    EXPECT_FALSE(frame->CreateMap());
+    for (const int id : {1003, 5003, 1004})
+        EXPECT_TRUE(Tools().GetToolEnabled(id)) << id;
 }
 
 TEST_F(MapCreationTest, PaintsTheSecondPictureOverTheFirst)

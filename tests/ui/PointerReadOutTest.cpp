@@ -66,6 +66,16 @@ TEST_F(PointerReadOutTest, IsEmptyFromTheRimOn)
     EXPECT_EQ(Status(0), "");
 }
 
+TEST_F(PointerReadOutTest, IsEmptyAtExactlyTheRim)
+{
+    settings->zoom = 100;
+    Create(202); // 1000 m a pixel
+    PointAt(101 + 99, 101);
+    EXPECT_TRUE(Status(0).Contains(" /  99.0 km / ")) << Status(0);
+    PointAt(101 + 100, 101);
+    EXPECT_EQ(Status(0), "");
+}
+
 TEST_F(PointerReadOutTest, IsTheSameWhereverTheCanvasIsScrolled)
 {
     Create(1500);

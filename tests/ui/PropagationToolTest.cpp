@@ -181,7 +181,7 @@ TEST_F(PropagationToolTest, NeedsNoVoacaplForAnExternalResult)
     EXPECT_EQ(Runs(), 1);
 }
 
-TEST_F(PropagationToolTest, RunsNoTimerForATimeChosenOnce)
+TEST_F(PropagationToolTest, RunsOnceForATimeChosenOnce)
 {
     settings->greyzone.timeMode = kOnce;
     Create();

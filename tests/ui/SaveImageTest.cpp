@@ -4,6 +4,8 @@
 #include <wx/filename.h>
 #include <wx/log.h>
 
+#include <filesystem>
+
 namespace
 {
 class SaveImageTest : public FrameFixture
@@ -21,6 +23,17 @@ protected:
         ClickTool(ui::kIdSave);
     }
 };
+
+TEST_F(SaveImageTest, FollowsALink)
+{
+    home.Write("shown.png", "an older picture");
+    std::filesystem::create_symlink(home.Path("shown.png").utf8_string(), home.Path("link.png").utf8_string());
+    SaveAs(home.Path("link.png"));
+    EXPECT_TRUE(std::filesystem::is_symlink(home.Path("link.png").utf8_string()));
+    wxImage image;
+    EXPECT_TRUE(image.LoadFile(home.Path("shown.png"), wxBITMAP_TYPE_PNG));
+    EXPECT_TRUE(dialogs.messages.empty());
+}
 
 TEST_F(SaveImageTest, WritesEachFormatByItsEnding)
 {
