@@ -22,20 +22,26 @@ unsigned Channel(Argb pixel, int shift)
     return (pixel >> shift) & 255;
 }
 
-/// Writes red, green and blue of every pixel as three bytes.
+/// Writes red, green and blue of every pixel as three bytes, which may be where the pixels are or before.
 void PackRgb(std::span<const Argb> pixels, unsigned char* rgb)
 {
-    if (pixels.empty())
-        return;
-    // A word of four bytes a pixel; the next pixel overwrites the one too many.
-    for (const Argb pixel : pixels.first(pixels.size() - 1))
+    const auto bytes = [](Argb pixel) { return std::uint64_t{__builtin_bswap32(pixel) >> 8}; };
+    // Two pixels at a time as a word of eight bytes; the pixel after them overwrites the two that are too many.
+    std::size_t x = 0;
+    for (; x + 2 < pixels.size(); x += 2, rgb += 6)
     {
-        const Argb word = __builtin_bswap32(pixel) >> 8;
+        const std::uint64_t word = bytes(pixels[x]) | bytes(pixels[x + 1]) << 24;
         std::memcpy(rgb, &word, sizeof word);
-        rgb += 3;
     }
-    for (const int shift : {16, 8, 0})
-        *rgb++ = static_cast<unsigned char>(Channel(pixels.back(), shift));
+    for (; x < pixels.size(); ++x)
+        for (const Argb pixel = pixels[x]; const int shift : {16, 8, 0})
+            *rgb++ = static_cast<unsigned char>(Channel(pixel, shift));
+}
+
+void PackRgb(const BitmapPixels& pixels, unsigned char* rgb)
+{
+    for (int y = 0; y < pixels.Height(); ++y, rgb += 3 * static_cast<std::size_t>(pixels.Width()))
+        PackRgb(pixels.Row(y), rgb);
 }
 
 unsigned char Unpremultiplied(unsigned channel, unsigned alpha)
@@ -165,12 +171,20 @@ wxImage ImageOf(wxBitmap& bitmap)
     wxImage image(pixels.Width(), pixels.Height(), false);
     if (!image.IsOk())
         return image;
-    unsigned char* rgb = image.GetData();
-    const std::size_t rowBytes = 3 * static_cast<std::size_t>(pixels.Width());
-    PreferHugePages(rgb, rowBytes * static_cast<std::size_t>(pixels.Height()));
-    for (int y = 0; y < pixels.Height(); ++y, rgb += rowBytes)
-        PackRgb(pixels.Row(y), rgb);
+    PreferHugePages(image.GetData(),
+                    3 * static_cast<std::size_t>(pixels.Width()) * static_cast<std::size_t>(pixels.Height()));
+    PackRgb(pixels, image.GetData());
     return image;
+}
+
+wxImage TakeImageOf(wxBitmap& bitmap)
+{
+    if (!BitmapPixels::AreInPlace(bitmap))
+        return bitmap.ConvertToImage();
+    const BitmapPixels pixels(bitmap);
+    auto* const rgb = reinterpret_cast<unsigned char*>(pixels.Row(0).data());
+    PackRgb(pixels, rgb);
+    return {pixels.Width(), pixels.Height(), rgb, true};
 }
 
 std::unique_ptr<wxBitmap> NewOverlayBitmap(int side)

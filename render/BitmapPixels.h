@@ -81,6 +81,13 @@ private:
 /// An opaque bitmap as an image; an invalid image when there is not enough memory for it.
 wxImage ImageOf(wxBitmap& bitmap);
 
+/**
+ * An opaque bitmap as an image made in the bitmap's own memory, so that it needs none of its own.
+ *
+ * The bitmap must live as long as the image, and must not be drawn any more.
+ */
+wxImage TakeImageOf(wxBitmap& bitmap);
+
 /// A white bitmap of a map's side at screen depth; none when there is not enough memory for it.
 std::unique_ptr<wxBitmap> NewWhiteBitmap(int side);
 

@@ -31,13 +31,27 @@ void MapPicture::Draw(wxDC& dc) const
 
 wxImage MapPicture::Compose() const
 {
-    if (mapReady && !showGreyline && !showPropagation)
+    if (IsMapAlone())
         return render::ImageOf(*mapBitmap);
-    const auto composed = render::NewWhiteBitmap(mapBitmap->GetWidth());
-    if (!composed)
-        return {};
-    wxMemoryDC dc(*composed);
-    Draw(dc);
-    dc.SelectObject(wxNullBitmap);
-    return render::ImageOf(*composed);
+    const auto composed = Composed();
+    return composed ? render::ImageOf(*composed) : wxImage();
+}
+
+wxImage MapPicture::Take()
+{
+    if (!IsMapAlone())
+        mapBitmap = Composed();
+    mapReady = showGreyline = showPropagation = false;
+    return mapBitmap ? render::TakeImageOf(*mapBitmap) : wxImage();
+}
+
+std::unique_ptr<wxBitmap> MapPicture::Composed() const
+{
+    auto composed = render::NewWhiteBitmap(mapBitmap->GetWidth());
+    if (composed)
+    {
+        wxMemoryDC dc(*composed);
+        Draw(dc);
+    }
+    return composed;
 }

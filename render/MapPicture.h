@@ -23,10 +23,18 @@ struct MapPicture
     /// @pre there is a map bitmap.
     wxImage Compose() const;
 
+    /// The same, in the memory of the map itself: the map is gone with it, and the image is valid only as long as this.
+    /// @pre there is a map bitmap.
+    wxImage Take();
+
     std::unique_ptr<wxBitmap> mapBitmap;
     std::unique_ptr<wxBitmap> greylineBitmap;
     std::unique_ptr<wxBitmap> propagationBitmap;
     bool mapReady = false;        ///< the map may be shown
     bool showGreyline = false;    ///< the greyline is shown over it
     bool showPropagation = false; ///< the propagation overlay is shown over both
+
+private:
+    bool IsMapAlone() const { return mapReady && !showGreyline && !showPropagation; }
+    std::unique_ptr<wxBitmap> Composed() const; ///< none when there is not enough memory for it
 };

@@ -65,7 +65,7 @@ int RenderToFile(std::unique_ptr<Configuration> settings, const wxString& path)
     delete wxLog::SetActiveTarget(new LogToStandardError);
     auto* const frame = new WxKavFrame(nullptr, std::move(settings));
     frame->onStep = PrintStep;
-    const bool written = frame->CreateMap() && render::SavePicture(frame->Picture().Compose(), path);
+    const bool written = frame->CreateMap() && render::SavePicture(frame->TakePicture(), path);
     wxLog::FlushActive();
     const int status = !written ? 1 : messageCount > 0 ? 2 : 0;
     frame->Destroy();

@@ -38,6 +38,9 @@ public:
     /// What the canvas shows.
     const MapPicture& Picture() const { return *m_canvas; }
 
+    /// The finished picture as an image, which needs no memory beyond the map's: see MapPicture::Take().
+    wxImage TakePicture() { return m_canvas->Take(); }
+
     /// Told the text of every step of a creation; none by default.
     std::function<void(const wxString& step)> onStep;
 

@@ -79,23 +79,62 @@ TEST(MapPicture, ShowsAnOverlayFlagWithoutABitmapAsNothing)
     EXPECT_EQ(Composed(picture), kBlue);
 }
 
-TEST(ImageOf, HasEveryPixelOfTheBitmap)
+TEST(MapPicture, IsTakenAsItIsShownAndGoneThen)
 {
-    for (const int side : {1, 2, 3, 4, 5, 101})
-    {
-        wxBitmap bitmap(side, side);
-        {
-            const render::BitmapPixels pixels(bitmap);
-            for (int y = 0; y < side; ++y)
-                for (int x = 0; x < side; ++x)
-                    pixels.Row(y)[static_cast<std::size_t>(x)] =
-                        0xFF000000U | static_cast<unsigned>((y * side + x + 1) * 7919);
-        }
-        const wxImage image = render::ImageOf(bitmap);
-        const wxImage converted = bitmap.ConvertToImage();
-        ASSERT_EQ(image.GetSize(), converted.GetSize());
-        EXPECT_EQ(0, std::memcmp(image.GetData(), converted.GetData(), static_cast<std::size_t>(3 * side * side)))
-            << side;
-    }
+    for (const bool greyline : {false, true})
+        for (const bool propagation : {false, true})
+            for (const bool ready : {false, true})
+            {
+                MapPicture picture = BluePictureWithOverlays();
+                picture.mapReady = ready;
+                picture.showGreyline = greyline;
+                picture.showPropagation = propagation;
+                wxBitmap shown(picture.Compose());
+                wxBitmap taken(picture.Take());
+                EXPECT_TRUE(SamePicture(ColoursOf(taken), ColoursOf(shown)));
+                EXPECT_FALSE(picture.mapReady || picture.showGreyline || picture.showPropagation);
+            }
 }
+
+/// Bitmaps of several sizes whose pixels all differ, with their colours; reached in place or not.
+class ImagesOfBitmaps : public testing::TestWithParam<bool>
+{
+protected:
+    void SetUp() override { render::BitmapPixels::mayReachInPlace = GetParam(); }
+    void TearDown() override { render::BitmapPixels::mayReachInPlace = true; }
+
+    template <class MakeImage>
+    static void ExpectEveryPixel(MakeImage make)
+    {
+        for (const int side : {1, 2, 3, 4, 5, 6, 7, 101, 128})
+        {
+            wxBitmap bitmap(side, side);
+            {
+                const render::BitmapPixels pixels(bitmap);
+                for (int y = 0; y < side; ++y)
+                    for (int x = 0; x < side; ++x)
+                        pixels.Row(y)[static_cast<std::size_t>(x)] =
+                            0xFF000000U | static_cast<unsigned>((y * side + x + 1) * 7919);
+            }
+            const wxImage converted = bitmap.ConvertToImage();
+            const wxImage image = make(bitmap);
+            ASSERT_EQ(image.GetSize(), converted.GetSize());
+            EXPECT_EQ(0, std::memcmp(image.GetData(), converted.GetData(), static_cast<std::size_t>(3 * side * side)))
+                << side;
+        }
+    }
+};
+
+TEST_P(ImagesOfBitmaps, HaveEveryPixel)
+{
+    ExpectEveryPixel(render::ImageOf);
+}
+
+TEST_P(ImagesOfBitmaps, HaveEveryPixelInTheBitmapsOwnMemory)
+{
+    ExpectEveryPixel(render::TakeImageOf);
+}
+
+INSTANTIATE_TEST_SUITE_P(PixelsReached, ImagesOfBitmaps, testing::Bool(),
+                         [](const auto& param) { return param.param ? "InPlace" : "ThroughImages"; });
 } // namespace
