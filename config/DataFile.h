@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/file.h>
 #include <wx/string.h>
 
 /**
@@ -10,3 +11,11 @@
  * error of whoever opens it names what the user typed.
  */
 wxString FindDataFile(const wxString& name);
+
+/**
+ * Opens a file named in the settings for reading, where FindDataFile() finds it.
+ *
+ * @return whether it is open; the toolkit's log says why not. Pipes and devices are no files: one might wait for them
+ * for ever.
+ */
+bool OpenDataFile(wxFile& file, const wxString& name);

@@ -74,7 +74,8 @@ double TxPowerKw(int choice)
     return NearestEntry(kPowers, choice);
 }
 
-wxString AreaInputText(const Configuration& settings, const AreaTime& time, const AntennaNames& antennas)
+wxString AreaInputText(const Configuration& settings, geo::LatLon transmitter, const AreaTime& time,
+                       const AntennaNames& antennas)
 {
     const PropagationSettings& p = settings.propagation;
     wxString text = "Model    :VOACAP\n"
@@ -84,7 +85,7 @@ wxString AreaInputText(const Configuration& settings, const AreaTime& time, cons
                     "Parameter:SDBW     0\n"
                     "Method   :   30\n"
                     "Coeffs   :CCIR\n";
-    text += TransmitLine(settings.centreLat, settings.centreLon);
+    text += TransmitLine(transmitter.lat, transmitter.lon);
     text += "Area     :    -180.0     180.0     -90.0      90.0\n";
     text += wxString::Format("Gridsize : %d    1\n", GridPoints(p.grid));
     text += wxString::Format("Months   :  %2.2f   0.00   0.00   0.00   0.00   0.00   0.00   0.00   0.00\n",

@@ -2,6 +2,7 @@
 
 #include "config/Configuration.h"
 #include "config/UtcTime.h"
+#include "geo/Locator.h"
 
 namespace propagation
 {
@@ -36,9 +37,12 @@ struct AntennaNames
 };
 
 /**
- * The area input file of voacapl: one run over the whole world with the transmitter at the map's centre.
+ * The area input file of voacapl: one run over the whole world.
+ *
+ * @param[in] transmitter the map's centre, degrees.
  *
  * voacapl reads fixed columns. A value that is wider than its place moves what follows it; see docs/propagation.md.
  */
-wxString AreaInputText(const Configuration& settings, const AreaTime& time, const AntennaNames& antennas);
+wxString AreaInputText(const Configuration& settings, geo::LatLon transmitter, const AreaTime& time,
+                       const AntennaNames& antennas);
 } // namespace propagation

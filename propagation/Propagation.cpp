@@ -47,7 +47,8 @@ bool Propagation::IsBusy()
 
 void Propagation::RunAndDraw()
 {
-    if (RunVoacap(m_files, m_settings, m_showStep) != 0)
+    if (RunVoacap(m_files, m_settings, {m_view.projection.centreLatDeg, m_view.projection.centreLonDeg}, m_showStep) !=
+        0)
         ShowError("Error calling VOACAP");
     // voacapl may leave an empty file behind and still end well.
     else if (wxFileName::GetSize(m_files.result) == 0)

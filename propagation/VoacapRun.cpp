@@ -71,7 +71,7 @@ AreaFiles::AreaFiles(const wxString& dataDirectory)
 {
 }
 
-int RunVoacap(const AreaFiles& files, Configuration& settings, const ShowStep& showStep)
+int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep)
 {
     const AreaTime time = AreaTimeOf(settings.greyzone, UtcNow());
     const auto antennas = NamesOfAntennas(settings.propagation);
@@ -83,7 +83,7 @@ int RunVoacap(const AreaFiles& files, Configuration& settings, const ShowStep& s
         settings.propagation.engine = kVoacapEngine;
         showStep("Calling VoaArea...");
     }
-    if (!input || !WriteAndClose(std::move(input), AreaInputText(settings, time, *antennas)))
+    if (!input || !WriteAndClose(std::move(input), AreaInputText(settings, transmitter, time, *antennas)))
     {
         ShowError(kFileOpenError);
         return kFailed;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/Configuration.h"
+#include "geo/Locator.h"
 #include "propagation/Messages.h"
 
 namespace propagation
@@ -21,10 +22,12 @@ struct AreaFiles
  * Returns when voacapl has ended. Meanwhile windows repaint, but all of them are disabled, and timers go on. A result
  * of an earlier run is removed before voacapl starts, so what is there afterwards is this run's.
  *
+ * @param[in]     transmitter the centre of the map that the overlay is for, degrees; the settings may have another by
+ *                            now.
  * @param[in,out] settings the engine is set to VOACAP as soon as the input file is open.
  * @return 0 when voacapl ended with exit status 0. Otherwise its exit status, or minus the signal that ended it; -1
  *         when it could not be started, or when the input could not be written. The latter has been reported to the
  *         user.
  */
-int RunVoacap(const AreaFiles& files, Configuration& settings, const ShowStep& showStep);
+int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep);
 } // namespace propagation

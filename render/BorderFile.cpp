@@ -14,9 +14,9 @@ std::int16_t LittleEndian(unsigned char low, unsigned char high)
 }
 } // namespace
 
-BorderFile::BorderFile(const wxString& path) : m_file(FindDataFile(path))
+BorderFile::BorderFile(const wxString& name)
 {
-    if (m_file.IsOpened())
+    if (OpenDataFile(m_file, name))
         ReadBlock();
 }
 

@@ -27,8 +27,8 @@ struct BorderRecord
 class BorderFile
 {
 public:
-    /// @param[in] path is looked up by FindDataFile().
-    explicit BorderFile(const wxString& path);
+    /// @param[in] name see OpenDataFile().
+    explicit BorderFile(const wxString& name);
 
     /// Reads the next point. @return false at the end of the file; then the record keeps its values.
     bool Next(BorderRecord& record);

@@ -31,9 +31,10 @@ std::optional<std::wstring> Decode(const wxMBConv& encoding, std::string_view by
     return text;
 }
 
-std::optional<std::string> ReadBytes(const wxString& path)
+std::optional<std::string> ReadBytes(const wxString& name)
 {
-    wxFile file(path);
+    wxFile file;
+    OpenDataFile(file, name);
     std::string bytes;
     std::string block(1 << 16, '\0');
     while (file.IsOpened())
@@ -60,7 +61,7 @@ std::wstring DecodeText(std::string_view bytes)
 
 std::optional<std::wstring> ReadTextFile(const wxString& file)
 {
-    const auto bytes = ReadBytes(FindDataFile(file));
+    const auto bytes = ReadBytes(file);
     return bytes ? std::optional(DecodeText(*bytes)) : std::nullopt;
 }
 } // namespace render

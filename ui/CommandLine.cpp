@@ -46,7 +46,8 @@ bool IsReadableFile(const char* path)
     struct stat status
     {
     };
-    return stat(path, &status) == 0 && !S_ISDIR(status.st_mode) && access(path, R_OK) == 0;
+    const bool isFile = stat(path, &status) == 0 && (S_ISREG(status.st_mode) || S_ISCHR(status.st_mode));
+    return isFile && access(path, R_OK) == 0;
 }
 
 CommandLine WrongUse(const std::string& what)

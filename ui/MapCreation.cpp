@@ -7,6 +7,7 @@
 #include <wx/dcmemory.h>
 #include <wx/log.h>
 #include <wx/progdlg.h>
+#include <wx/wfstream.h>
 
 namespace
 {
@@ -26,7 +27,12 @@ wxImage LoadPicture(const wxString& name)
     // A picture that can't be loaded gets one message, the program's own.
     const wxLogNull silent;
     wxImage image;
-    image.LoadFile(FindDataFile(name));
+    wxFile file;
+    if (!OpenDataFile(file, name))
+        return image;
+    wxFileInputStream bytes(file);
+    wxBufferedInputStream buffered(bytes);
+    image.LoadFile(buffered);
     return image;
 }
 } // namespace

@@ -145,7 +145,7 @@ void WxKavFrame::OnSaveImage(wxCommandEvent&)
     if (dialog.ShowModal() != wxID_OK)
         return;
     const wxString path = dialog.GetPath();
-    if (render::PictureTypeOf(path))
+    if (HasMap() && render::PictureTypeOf(path))
         render::SavePicture(m_canvas->Compose(), path);
     else
         ShowError("Couldn't save " + path);

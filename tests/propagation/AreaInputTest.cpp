@@ -22,10 +22,12 @@ protected:
     const TemporaryHome home;
     Configuration settings{"Kavdex"};
 
+    geo::LatLon Centre() const { return {settings.centreLat, settings.centreLon}; }
+
     /// A line of the input, counted from 1.
     std::string Line(std::size_t number, const AreaTime& time = {11, 12}) const
     {
-        const wxString text = AreaInputText(settings, time, kSamples);
+        const wxString text = AreaInputText(settings, Centre(), time, kSamples);
         EXPECT_TRUE(text.EndsWith("\n"));
         const wxArrayString lines = wxStringTokenize(text, "\n", wxTOKEN_RET_EMPTY);
         EXPECT_EQ(lines.size(), 18u);
@@ -38,7 +40,7 @@ TEST_F(AreaInputTest, IsCharacterByCharacterWhatVoacaplWasSeenToAccept)
     std::ifstream file(KAV_TEST_DATA "/area_36x36.voa", std::ios::binary);
     const std::string real{std::istreambuf_iterator<char>(file), {}};
     ASSERT_EQ(real.size(), 801u);
-    EXPECT_EQ(AreaInputText(settings, {11, 12}, kSamples).utf8_string(), real);
+    EXPECT_EQ(AreaInputText(settings, Centre(), {11, 12}, kSamples).utf8_string(), real);
 }
 
 TEST_F(AreaInputTest, NamesTheHemisphereByALetter)
@@ -109,7 +111,7 @@ TEST_F(AreaInputTest, WritesTheReceiverBeforeTheTransmitterThatCarriesThePower)
     settings.propagation.transmitter = {"-1.25", "45.5", ""};
     settings.propagation.txPower = 6;
     const AntennaNames names{"tx      \\a           ", "rx      \\b           "};
-    const wxString text = AreaInputText(settings, {1, 1}, names);
+    const wxString text = AreaInputText(settings, Centre(), {1, 1}, names);
     EXPECT_TRUE(text.EndsWith("Rec Ants :[rx      \\b           ]  gain=   2.1   270.0\n"
                               "Tx Ants  :[tx      \\a           ]  -1.250 45.5  1.000\n"))
         << text;
@@ -124,7 +126,7 @@ TEST_F(AreaInputTest, SurvivesAnyNumber)
     p.sunspotNumber = LONG_MIN;
     p.grid = p.frequency = p.txPower = INT_MAX;
     settings.centreLat = -1e300;
-    EXPECT_GT(AreaInputText(settings, {INT_MIN, INT_MAX}, kSamples).length(), 1400u);
+    EXPECT_GT(AreaInputText(settings, Centre(), {INT_MIN, INT_MAX}, kSamples).length(), 1400u);
 }
 
 TEST(AreaTables, GiveTheNearestEntryForAnIndexOutside)

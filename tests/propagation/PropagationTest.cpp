@@ -165,9 +165,9 @@ TEST_F(PropagationTest, WritesTheInputOfTheRun)
     settings.propagation.receiver.file = "/usr/local/share/voacapl/antennas/default/isotrope";
     settings.greyzone.once = {2026, 2, 21, 17, 0, 0};
     ASSERT_THAT(Draw(), IsEmpty());
-    EXPECT_EQ(home.Read(kInput),
-              propagation::AreaInputText(settings, {3, 17}, {"samples \\sample.00   ", "default \\isotrope    "})
-                  .utf8_string());
+    EXPECT_EQ(home.Read(kInput), propagation::AreaInputText(settings, {settings.centreLat, settings.centreLon}, {3, 17},
+                                                            {"samples \\sample.00   ", "default \\isotrope    "})
+                                     .utf8_string());
 }
 
 TEST_F(PropagationTest, RunsForTheHourByTheClockInRealTime)
@@ -362,10 +362,14 @@ TEST_F(PropagationTest, TakesTheLowEightBitsOfTheOpacity)
 TEST_F(PropagationTest, BelongsToTheMapNotToTheSettings)
 {
     Draw();
+    const std::string input = home.Read(kInput);
     settings.size = 333;
     settings.zoom = 100;
+    settings.centreLat = -12;
+    settings.centreLon = 95;
     const Propagation again(picture, view, settings, [](const wxString&) {});
     EXPECT_EQ(picture.propagationBitmap->GetSize(), wxSize(200, 200));
+    EXPECT_EQ(home.Read(kInput), input);
 }
 
 /// Counts, while a run goes on, how often the window could act.

@@ -1,8 +1,12 @@
 #include "ui/CommandLine.h"
 
+#include "tests/support/TemporaryHome.h"
+
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include <sys/stat.h>
 
 namespace
 {
@@ -69,6 +73,15 @@ TEST(CommandLine, EndsWithOneOnWrongUse)
         EXPECT_EQ(Parse(words).exitStatus, 1) << words[0];
         EXPECT_EQ(testing::internal::GetCapturedStderr().rfind("kavmap: ", 0), 0u) << words[0];
     }
+}
+
+TEST(CommandLine, TakesNoPipeForSettings)
+{
+    const TemporaryHome home;
+    ASSERT_EQ(mkfifo(home.Path("pipe").utf8_str(), 0600), 0);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(Parse({"-s", home.Path("pipe").utf8_string()}).exitStatus, 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr().rfind("kavmap: ", 0), 0u);
 }
 
 TEST(CommandLine, EndsWithZeroOnHelpAndVersion)

@@ -202,6 +202,41 @@ TEST_F(ProgramTest, LoadsUsersPicturesOfAnyKind)
     }
 }
 
+TEST_F(ProgramTest, WaitsForNoPipe)
+{
+    ASSERT_EQ(mkfifo(home.Path("pipe").utf8_str(), 0600), 0);
+    for (const char* key : {"[Borders]\nShow1=1\nFile1", "[Text]\nShow1=1\nFile1", "[PlotSquares]\nShow1=1\nFile1"})
+    {
+        home.Write("pipe.ini", std::string("Size=100\n") + key + "=pipe\n");
+        EXPECT_EQ(Run("-s pipe.ini -r a.png"), 2) << key;
+        EXPECT_THAT(Err(), HasSubstr("pipe")) << key;
+    }
+    home.Write("pipe.ini", "Size=100\n[SourceBitmap]\nShow1=1\nFile1=pipe\n");
+    EXPECT_EQ(Run("-s pipe.ini -r a.png"), 1);
+    EXPECT_THAT(Err(), HasSubstr("Error creating bitmap in function OnCreateMap1"));
+}
+
+TEST_F(ProgramTest, EndsWithTwoWhereTheMapLacksALayer)
+{
+    home.Write("lacking.ini", "Size=100\n[Propagation]\nShow=1\nDir=/nonexistent\n");
+    EXPECT_EQ(Run("-s lacking.ini -r a.png"), 2);
+    EXPECT_EQ(Picture("a.png").GetWidth(), 100);
+    EXPECT_THAT(Err(), StartsWith("kavmap: "));
+}
+
+TEST_F(ProgramTest, DrawsTheGreylineOfTheTimeThatIsGiven)
+{
+    home.Write("grey.ini", "Size=150\n[Greyzone]\nShow=1\nOpt=0\n");
+    const auto pixels = [this](const std::string& time)
+    {
+        EXPECT_EQ(Run("-s grey.ini -t " + time + " -r a.pnm"), 0);
+        return home.Read("a.pnm");
+    };
+    const std::string noon = pixels("2026-06-21T12:00");
+    EXPECT_EQ(pixels("2026-06-21T12:00"), noon);
+    EXPECT_NE(pixels("2026-06-21T18:00"), noon);
+}
+
 TEST_F(ProgramTest, DrawsTheSmallestMap)
 {
     home.Write("tiny.ini", "Size=100\nZoom=100\n[Compass]\nFont=Sans 99\n");

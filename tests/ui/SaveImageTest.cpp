@@ -24,6 +24,18 @@ protected:
     }
 };
 
+TEST_F(SaveImageTest, SaysSoWhereThereIsNoMapYet)
+{
+    frame->Destroy();
+    FrameFixture::SetUp();
+    settings->size = 99;
+    ClickTool(ui::kIdCreate); // a size error leaves the tool enabled
+    dialogs.messages.clear();
+    SaveAs(home.Path("map.png"));
+    EXPECT_EQ(dialogs.Texts(), "Couldn't save " + home.Path("map.png") + "\n");
+    EXPECT_FALSE(wxFileName::Exists(home.Path("map.png")));
+}
+
 TEST_F(SaveImageTest, FollowsALink)
 {
     home.Write("shown.png", "an older picture");
