@@ -8,8 +8,10 @@
 
 #include <wx/log.h>
 
+#include <fstream>
 #include <map>
 #include <set>
+#include <sstream>
 
 namespace
 {
@@ -81,6 +83,26 @@ TEST(Configuration, CompletesAnEmptyHomeWithAllDefaults)
     EXPECT_EQ(written.ReadLong("Propagation/S9PColour", 0), 255);
     EXPECT_THAT(home.Read(".Kavdex"), HasSubstr("[Center\\ pos]\n"));
     EXPECT_THAT(home.Read(".Kavdex"), HasSubstr("Zoom=20000\n"));
+}
+
+TEST(Configuration, WritesEveryDefaultInOrder)
+{
+    const TemporaryHome home;
+    {
+        Configuration settings("Kavdex");
+    }
+    // All but the date and time, whose default is now.
+    std::istringstream written(home.Read(".Kavdex"));
+    std::string lines;
+    int clockLines = 0;
+    for (std::string line; std::getline(written, line);)
+        if (line.rfind("Cal", 0) == 0)
+            ++clockLines;
+        else
+            lines += line + "\n";
+    EXPECT_EQ(clockLines, 5);
+    std::ifstream golden(KAV_TEST_DATA "/defaults.ini");
+    EXPECT_EQ(lines, std::string(std::istreambuf_iterator<char>(golden), {}));
 }
 
 TEST(Configuration, HasItsDefaults)
