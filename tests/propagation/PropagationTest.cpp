@@ -4,6 +4,7 @@
 #include "tests/propagation/Results.h"
 #include "tests/support/Dialogs.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/ScarceMemory.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -324,6 +325,17 @@ TEST_F(PropagationTest, ReportsAnotherRunsResultThatCantBeOpened)
         EXPECT_THAT(Draw(), ElementsAre("File open error in Prop")) << file;
         ExpectPreviousOverlayHidden(previous);
     }
+}
+
+TEST_F(PropagationTest, ReportsThatThereIsNoMemoryForTheOverlay)
+{
+    settings.propagation.useExternalResult = true;
+    settings.propagation.externalResult = KAV_TEST_DATA "/area_36x36.vg1";
+    settings.size = 6000;
+    const wxBitmap* const previous = ShowPreviousOverlay();
+    const ScarceMemory memory;
+    EXPECT_THAT(Draw(), ElementsAre("Error creating bitmap original function Prop"));
+    ExpectPreviousOverlayHidden(previous);
 }
 
 TEST_F(PropagationTest, IsSilentAboutAResultWithTooFewPoints)

@@ -1,4 +1,5 @@
 #include "tests/support/FrameFixture.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <gmock/gmock.h>
 
@@ -232,5 +233,19 @@ TEST_F(GreylineToolTest, NoLongerFollowsTheClockAfterAMapForOnce)
         Settle();
     }
     EXPECT_EQ(Status(1), before);
+}
+
+TEST_F(GreylineToolTest, SaysWhenThereIsNoMemoryForTheGreylineAndLeavesItHidden)
+{
+    settings->size = 6000;
+    settings->greyzone.show = false;
+    Create();
+    {
+        const ScarceMemory memory;
+        Toggle(true);
+    }
+    EXPECT_EQ(dialogs.Texts(), "Error creating bitmap original function DrawSunTerm2\n");
+    EXPECT_FALSE(Shown());
+    EXPECT_TRUE(frame->Picture().mapReady);
 }
 } // namespace

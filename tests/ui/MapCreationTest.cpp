@@ -1,5 +1,6 @@
 #include "tests/support/FrameFixture.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <gmock/gmock.h>
 
@@ -105,6 +106,18 @@ TEST_F(MapCreationTest, RefusesOtherSizesAndLeavesEverythingAsItWas)
         for (const int id : {1003, 5003, 1004})
             EXPECT_TRUE(Tools().GetToolEnabled(id)) << id;
     }
+}
+
+TEST_F(MapCreationTest, StopsWhenThereIsNoMemoryForTheMap)
+{
+    settings->size = 6000;
+    {
+        const ScarceMemory memory;
+        Create();
+    }
+    ExpectStoppedWith("Error creating bitmap in function OnCreateMap0");
+    EXPECT_FALSE(frame->Picture().mapReady);
+    EXPECT_TRUE(frame->CreateMap());
 }
 
 TEST_F(MapCreationTest, StopsWhenASourcePictureCannotBeLoaded)

@@ -1,0 +1,147 @@
+#include "tests/support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+#include <wx/utils.h>
+
+#include <memory>
+#include <signal.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// Last, for they define words like None and Bool.
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+
+namespace
+{
+const char kTitle[] = "Kavmap V3.1.9 Linux QQ0QQQ";
+
+/// What the display knows of the windows on it.
+class Screen
+{
+public:
+    Screen() : m_display(XOpenDisplay(nullptr), XCloseDisplay)
+    {
+        // Windows may vanish while they are asked.
+        XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+    }
+
+    bool IsOk() const { return m_display != nullptr; }
+
+    /// The window with a title; None if there isn't one.
+    Window Find(const std::string& title) const { return Find(title, DefaultRootWindow(m_display.get())); }
+
+    bool HasIcon(Window window) const { return !Property(window, "_NET_WM_ICON", XA_CARDINAL).empty(); }
+
+    /// As a click on the cross in the title bar does.
+    void Close(Window window) const
+    {
+        XEvent event{};
+        event.xclient.type = ClientMessage;
+        event.xclient.window = window;
+        event.xclient.message_type = AtomOf("WM_PROTOCOLS");
+        event.xclient.format = 32;
+        event.xclient.data.l[0] = static_cast<long>(AtomOf("WM_DELETE_WINDOW"));
+        XSendEvent(m_display.get(), window, False, NoEventMask, &event);
+        XFlush(m_display.get());
+    }
+
+private:
+    Atom AtomOf(const char* name) const { return XInternAtom(m_display.get(), name, False); }
+
+    std::string Property(Window window, const char* name, Atom type) const
+    {
+        Atom actualType = None;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long left = 0;
+        unsigned char* bytes = nullptr;
+        XGetWindowProperty(m_display.get(), window, AtomOf(name), 0, 1000, False, type, &actualType, &format, &count,
+                           &left, &bytes);
+        const std::unique_ptr<unsigned char, decltype(&XFree)> owner(bytes, XFree);
+        return bytes ? std::string(reinterpret_cast<char*>(bytes), count) : std::string();
+    }
+
+    Window Find(const std::string& title, Window parent) const
+    {
+        if (Property(parent, "_NET_WM_NAME", AtomOf("UTF8_STRING")) == title)
+            return parent;
+        Window root = None;
+        Window* children = nullptr;
+        unsigned count = 0;
+        XQueryTree(m_display.get(), parent, &root, &parent, &children, &count);
+        const std::unique_ptr<Window, decltype(&XFree)> owner(children, XFree);
+        for (unsigned i = 0; i < count; ++i)
+            if (const Window found = Find(title, children[i]))
+                return found;
+        return None;
+    }
+
+    std::unique_ptr<Display, decltype(&XCloseDisplay)> m_display;
+};
+
+/// The program as it comes up without any option.
+class RunningProgram
+{
+public:
+    RunningProgram() : m_process(fork())
+    {
+        if (m_process != 0)
+            return;
+        execl(KAVMAP_PROGRAM, "kavmap", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    ~RunningProgram()
+    {
+        if (!HasEnded())
+        {
+            kill(m_process, SIGKILL);
+            waitpid(m_process, nullptr, 0);
+        }
+    }
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+
+    bool HasEnded()
+    {
+        m_hasEnded = m_hasEnded || waitpid(m_process, &m_status, WNOHANG) == m_process;
+        return m_hasEnded;
+    }
+    bool HasSucceeded() const { return m_hasEnded && WIFEXITED(m_status) && WEXITSTATUS(m_status) == 0; }
+
+private:
+    pid_t m_process;
+    int m_status = 0;
+    bool m_hasEnded = false;
+};
+
+/// Waits for something to become true, half a minute at most.
+template <class Condition>
+bool Await(Condition condition)
+{
+    for (int i = 0; i < 600; ++i, wxMilliSleep(50))
+        if (condition())
+            return true;
+    return false;
+}
+
+TEST(ProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
+{
+    const TemporaryHome home;
+    const Screen screen;
+    ASSERT_TRUE(screen.IsOk());
+    RunningProgram program;
+    Window window = None;
+    ASSERT_TRUE(Await([&] { return (window = screen.Find(kTitle)) != None || program.HasEnded(); }));
+    ASSERT_NE(window, None);
+    EXPECT_TRUE(Await([&] { return screen.HasIcon(window); }));
+    EXPECT_FALSE(program.HasEnded());
+
+    screen.Close(window);
+    EXPECT_TRUE(Await([&] { return program.HasEnded(); }));
+    EXPECT_TRUE(program.HasSucceeded());
+    EXPECT_NE(home.Read(".Kavdex").find("Zoom=20000\n"), std::string::npos);
+}
+} // namespace
