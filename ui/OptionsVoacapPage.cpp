@@ -9,10 +9,18 @@ namespace
 {
 using namespace ui;
 
-wxTextCtrl* AddField(wxWindow* parent, wxSizer* grid, const char* label)
+// Numbers wider than their place in the input of voacapl are read otherwise, and nothing tells.
+constexpr char kSsnTip[] = "voacapl reads two digits:\n120 counts as 12.";
+constexpr char kBelow10Tip[] = "Below 10; from there on voacapl\nreads the fields after it wrongly.";
+constexpr char kBelow100Tip[] = "Below 100; from there on voacapl\nreads the fields after it wrongly.";
+constexpr char kReceiverGainTip[] = "0 to 9.9; otherwise voacapl\nreads the direction wrongly.";
+constexpr char kReceiverDirectionTip[] = "voacapl reads two digits:\n270 counts as 27.";
+
+wxTextCtrl* AddField(wxWindow* parent, wxSizer* grid, const char* label, const char* tip = "")
 {
     wxStaticText* const name = NewLabel(parent, label);
     wxTextCtrl* const field = NewText(parent, 8);
+    field->SetToolTip(tip);
     AddCells(grid, {name, field});
     return field;
 }
@@ -32,6 +40,7 @@ wxSizer* NewEngineRow(wxWindow* page, VoacapMainPage& controls)
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     controls.engine = AddLabelled(page, row, "Propagation Engine", [&] { return NewChoice(page, kEngines); });
     controls.ssn = AddLabelled(page, row, "SSN", [&] { return NewSpin(page, 0, 200, wxSP_WRAP); });
+    controls.ssn->SetToolTip(kSsnTip);
     controls.grid = AddLabelled(page, row, "Grid", [&] { return NewChoice(page, kGrids); });
     return row;
 }
@@ -48,13 +57,21 @@ wxSizer* NewTransmitterColumn(wxWindow* page, VoacapMainPage& controls)
 
 wxSizer* NewSystemVariables(wxWindow* page, VoacapMainPage& controls)
 {
-    static constexpr const char* kLabels[] = {"Man Made Noise (-dBW/Hz)",         "Minimum Takeoff Angle (deg)",
-                                              "Required Circuit Reliability (%)", "Required S/N Ratio (dB)",
-                                              "Multipath Pwr Tolerance (dB)",     "Max Tolerable Multipath Delay (mS)"};
+    struct Field
+    {
+        const char* label;
+        const char* tip = "";
+    };
+    static constexpr Field kFields[] = {{"Man Made Noise (-dBW/Hz)"},
+                                        {"Minimum Takeoff Angle (deg)", kBelow10Tip},
+                                        {"Required Circuit Reliability (%)", kBelow100Tip},
+                                        {"Required S/N Ratio (dB)"},
+                                        {"Multipath Pwr Tolerance (dB)"},
+                                        {"Max Tolerable Multipath Delay (mS)"}};
     auto* const group = new wxStaticBoxSizer(wxVERTICAL, page, "System Variables");
     wxFlexGridSizer* const grid = NewGrid(2);
     for (std::size_t i = 0; i < controls.systemVariables.size(); ++i)
-        controls.systemVariables[i] = AddField(group->GetStaticBox(), grid, kLabels[i]);
+        controls.systemVariables[i] = AddField(group->GetStaticBox(), grid, kFields[i].label, kFields[i].tip);
     group->Add(grid, 0, wxALL, kGap);
     return group;
 }
@@ -165,6 +182,8 @@ VoacapAntennaPage::VoacapAntennaPage(wxBookCtrlBase* book)
     auto* const content = new wxBoxSizer(wxVERTICAL);
     transmitter = AddAntenna(panel, content, "Transmitter antenna");
     receiver = AddAntenna(panel, content, "Receiver Antenna");
+    receiver.gain->SetToolTip(kReceiverGainTip);
+    receiver.direction->SetToolTip(kReceiverDirectionTip);
     auto* const group = new wxStaticBoxSizer(wxVERTICAL, panel, "Ionospheric parameters");
     content->Add(group, 0, wxEXPAND);
     wxWindow* const box = group->GetStaticBox();

@@ -251,6 +251,18 @@ TEST_F(OptionsPages, ExplainTheSunAndTheTimeInTooltips)
               "Click here if you want to transfer\nthe time just now to the controls\nfor plotting \"Once\"");
 }
 
+TEST_F(OptionsPages, WarnWhereVoacaplReadsFewerDigits)
+{
+    const ui::VoacapMainPage& main = dialog->m_voacapPage.main;
+    const ui::VoacapAntennaPage& antenna = dialog->m_voacapPage.antenna;
+    EXPECT_EQ(main.ssn->GetToolTipText(), "voacapl reads two digits:\n120 counts as 12.");
+    for (const wxTextCtrl* field :
+         {main.systemVariables[1], main.systemVariables[2], antenna.receiver.gain, antenna.receiver.direction})
+        EXPECT_TRUE(field->GetToolTipText().Contains("voacapl")) << field->GetToolTipText();
+    for (const wxTextCtrl* field : {main.systemVariables[0], antenna.transmitter.gain, antenna.transmitter.direction})
+        EXPECT_EQ(field->GetToolTipText(), "");
+}
+
 TEST_F(OptionsPages, StoreWhiteWithOneStepLessBlue)
 {
     dialog->m_settingsPage.meridians.colour->SetColour(*wxWHITE);
