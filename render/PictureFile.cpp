@@ -34,6 +34,14 @@ bool TakePlaceOf(const wxString& path, const wxString& complete)
     return chmod(complete.fn_str(), exists ? older.st_mode & 0777 : 0666 & ~mask) == 0 &&
            std::rename(complete.fn_str(), path.fn_str()) == 0;
 }
+
+/// A new empty file in the directory of another; empty if there can't be one.
+wxString NewFileBeside(const wxString& path)
+{
+    const wxLogNull silent;
+    return wxFileName::CreateTempFileName(path);
+}
+
 /// Where a name leads to: a link stays a link.
 wxString Resolved(const wxString& path)
 {
@@ -68,12 +76,13 @@ bool SavePicture(wxImage picture, const wxString& path)
     picture.SetOption(wxIMAGE_OPTION_QUALITY, 90);
     // Written beside the target and renamed, so that a failure leaves an older picture alone.
     const wxString target = Resolved(path);
-    const wxString beside = wxFileName::CreateTempFileName(target);
-    if (beside.empty())
-        return false;
-    if (WritePicture(picture, beside, *PictureTypeOf(path)) && TakePlaceOf(target, beside))
-        return true;
-    wxRemoveFile(beside);
+    const wxString beside = NewFileBeside(target);
+    if (!beside.empty())
+    {
+        if (WritePicture(picture, beside, *PictureTypeOf(path)) && TakePlaceOf(target, beside))
+            return true;
+        wxRemoveFile(beside);
+    }
     wxLogError("Couldn't write the picture %s", path);
     return false;
 }

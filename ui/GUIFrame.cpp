@@ -61,6 +61,9 @@ GUIFrame::GUIFrame(wxWindow* parent)
 {
     CreateMenus();
     m_statusBar = CreateStatusBar(2, wxSTB_SIZEGRIP);
+    // The read-out of the pointer is longer than that of the sun; so every number of both has room from the start.
+    constexpr int kShares[] = {-13, -11};
+    m_statusBar->SetStatusWidths(2, kShares);
     m_canvas = new MapCanvas(this);
     m_canvas->SetScrollRate(5, 5);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
@@ -68,6 +71,11 @@ GUIFrame::GUIFrame(wxWindow* parent)
     SetSizer(sizer);
     CreateTools();
     BindCommands();
+}
+
+void GUIFrame::DoGiveHelp(const wxString& text, bool show)
+{
+    wxFrame::DoGiveHelp(text, show && !text.empty());
 }
 
 void GUIFrame::CreateMenus()

@@ -16,6 +16,9 @@ class GUIFrame : public wxFrame
 public:
     explicit GUIFrame(wxWindow* parent);
 
+    /// A tool or menu entry without a help text leaves the status bar alone.
+    void DoGiveHelp(const wxString& text, bool show) override;
+
 protected:
     virtual void OnActivate(wxActivateEvent& event) { event.Skip(); }
     virtual void OnClose(wxCloseEvent& event) { event.Skip(); }

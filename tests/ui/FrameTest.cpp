@@ -18,6 +18,32 @@ TEST_F(FrameTest, GreetsWithItsNameAndTheToolkitsVersion)
     EXPECT_EQ(LocatorField().GetValue(), "JO65HQ");
 }
 
+TEST_F(FrameTest, HasRoomForAllNumbersOfTheLongestReadOuts)
+{
+    const wxStatusBar& bar = *frame->GetStatusBar();
+    const auto expectRoom = [&bar](int field, const wxString& text)
+    {
+        wxRect room;
+        ASSERT_TRUE(bar.GetFieldRect(field, room));
+        EXPECT_LE(bar.GetTextExtent(text).x + 2, room.width) << text;
+    };
+    expectRoom(0, "lat = -88.8 / long = -178.8 / AA00AA / 18888.8 km / 288.8 de");
+    expectRoom(1, "2026-08-28 08:08 Z | SunAz 288.888 | SunEl -88.888");
+}
+
+TEST_F(FrameTest, KeepsTheStatusWhereThePointerIsOverAToolWithoutHelp)
+{
+    frame->SetStatusText("Finished...");
+    frame->DoGiveHelp("", true);
+    EXPECT_EQ(Status(0), "Finished...");
+    frame->DoGiveHelp("Quit the application", true);
+    EXPECT_EQ(Status(0), "Quit the application");
+    frame->DoGiveHelp("", true);
+    EXPECT_EQ(Status(0), "Finished...");
+    frame->DoGiveHelp("", false);
+    EXPECT_EQ(Status(0), "Finished...");
+}
+
 TEST_F(FrameTest, MakesNoMapAtStart)
 {
     EXPECT_FALSE(frame->Picture().mapBitmap);
