@@ -62,7 +62,7 @@ GUIFrame::GUIFrame(wxWindow* parent)
     CreateMenus();
     m_statusBar = CreateStatusBar(2, wxSTB_SIZEGRIP);
     // The read-out of the pointer is longer than that of the sun; so every number of both has room from the start.
-    constexpr int kShares[] = {-13, -11};
+    constexpr int kShares[] = {-7, -6};
     m_statusBar->SetStatusWidths(2, kShares);
     m_canvas = new MapCanvas(this);
     m_canvas->SetScrollRate(5, 5);

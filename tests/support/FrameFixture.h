@@ -9,6 +9,7 @@
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
+#include <wx/utils.h>
 
 /// A real main window on an empty home, with small maps, and what a user can do to it.
 class FrameFixture : public testing::Test
@@ -40,6 +41,19 @@ protected:
             wxTheApp->ProcessPendingEvents();
             wxTheApp->ProcessIdle();
         }
+    }
+
+    /// Lets events happen until something has become true, ten seconds at most.
+    template <class Condition>
+    static bool Await(Condition condition)
+    {
+        for (int i = 0; i < 200; ++i, wxMilliSleep(50))
+        {
+            Settle();
+            if (condition())
+                return true;
+        }
+        return false;
     }
 
     void Command(wxEventType type, int id, bool checked = false)

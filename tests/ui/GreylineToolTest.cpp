@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <climits>
 #include <cstring>
 
@@ -210,13 +209,7 @@ TEST_F(GreylineToolTest, FollowsTheClockByItself)
 {
     Create();
     now += 7200;
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (!Status(1).StartsWith("2026-03-20 14:00 Z") && std::chrono::steady_clock::now() < deadline)
-    {
-        wxMilliSleep(50);
-        Settle();
-    }
-    EXPECT_TRUE(Status(1).StartsWith("2026-03-20 14:00 Z")) << Status(1);
+    EXPECT_TRUE(Await([this] { return Status(1).StartsWith("2026-03-20 14:00 Z"); })) << Status(1);
 }
 
 TEST_F(GreylineToolTest, NoLongerFollowsTheClockAfterAMapForOnce)
