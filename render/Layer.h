@@ -38,9 +38,8 @@ public:
      * Starts a layer on the blank sheet.
      *
      * @return a drawing context with a solid pen of the colour and width, a transparent brush and texts on a
-     * transparent ground. Shapes and texts are drawn without smoothing, so that they leave exactly their own colour:
-     * what is mixed with the white of the sheet is blended as a pale fringe, which on dark parts of a map makes dark
-     *         texts unreadable.
+     *         transparent ground, without smoothing: a pixel is marked or not, and marks for those half covered would
+     *         make lines fat and texts unreadable.
      */
     wxDC& Begin(const wxColour& colour, int lineWidth);
 

@@ -101,11 +101,10 @@ private:
     void DrawOverlays();
     void FinishCreation();
 
-    // One layer: named in the status bar, drawn on a white sheet, blended. Of an opacity the low eight bits count.
+    // One layer: named in the status bar, drawn on a blank sheet, blended. Of an opacity the low eight bits count.
     using Drawing = std::function<void(wxDC& dc)>;
     using TextDrawing = std::function<void(wxDC& dc, const MapView& view, const TextStyle& style)>;
-    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth,
-                     render::Inks inks = render::Inks::One);
+    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth, render::Inks inks);
     void EndLayer(long alpha);
     void DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth, const Drawing& draw,
                    render::Inks inks = render::Inks::One);

@@ -56,6 +56,15 @@ protected:
         return false;
     }
 
+    /// From now on keeps the texts of the steps of a creation.
+    void RecordSteps()
+    {
+        frame->onStep = [this](const wxString& step) { steps.push_back(step); };
+    }
+
+    /// Switches off the layers that are shown by default.
+    void HideLayers() const { settings->meridians.show = settings->compass.show = settings->radials.show = false; }
+
     void Command(wxEventType type, int id, bool checked = false)
     {
         wxCommandEvent event(type, id);
@@ -84,6 +93,7 @@ protected:
     Dialogs dialogs;
     Configuration* settings = nullptr; ///< owned by the frame
     WxKavFrame* frame = nullptr;
+    std::vector<wxString> steps; ///< see RecordSteps()
 
 private:
     int LocatorFieldId() const

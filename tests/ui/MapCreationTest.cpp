@@ -14,10 +14,8 @@ protected:
     void SetUp() override
     {
         FrameFixture::SetUp();
-        frame->onStep = [this](const wxString& step) { steps.push_back(step); };
-        for (LineStyle* layer : {&settings->meridians, static_cast<LineStyle*>(&settings->compass),
-                                 static_cast<LineStyle*>(&settings->radials)})
-            layer->show = false;
+        RecordSteps();
+        HideLayers();
     }
 
     void Create() { ClickTool(ui::kIdCreate); }
@@ -38,8 +36,6 @@ protected:
             EXPECT_FALSE(Tools().GetToolEnabled(id)) << id;
         EXPECT_NE(Status(0), "Finished...");
     }
-
-    std::vector<wxString> steps;
 };
 
 TEST_F(MapCreationTest, MakesAMapOfTheSizeAndSaysWhenItIsFinished)

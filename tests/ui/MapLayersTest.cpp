@@ -19,10 +19,8 @@ protected:
     void SetUp() override
     {
         FrameFixture::SetUp();
-        frame->onStep = [this](const wxString& step) { steps.push_back(step); };
-        for (LineStyle* layer : {&settings->meridians, static_cast<LineStyle*>(&settings->compass),
-                                 static_cast<LineStyle*>(&settings->radials)})
-            layer->show = false;
+        RecordSteps();
+        HideLayers();
         settings->compass.text.show = false;
         wxImage world(1, 1);
         world.SetRGB(0, 0, 100, 150, 200);
@@ -51,8 +49,6 @@ protected:
     {
         return render::BlendPixel(under, render::OpaquePixel(ink.Red(), ink.Green(), ink.Blue()), alpha);
     }
-
-    std::vector<wxString> steps;
 };
 
 TEST_F(MapLayersTest, AreDrawnInAFixedOrderAndNamed)
