@@ -1,3 +1,20 @@
+# Most of the time of a compilation goes into reading the headers of the toolkit and of the test library. Tests get them
+# read beforehand, the rooms only where they are built a second time: what a room includes is checked without.
+if(KAV_TESTS)
+  find_package(GTest REQUIRED)
+  add_library(kav_precompiled OBJECT ${PROJECT_SOURCE_DIR}/cmake/Precompiled.cpp)
+  target_link_libraries(kav_precompiled PRIVATE kav_wx_core GTest::gmock kav_options)
+  target_compile_options(kav_precompiled PRIVATE -O1)
+  target_precompile_headers(kav_precompiled PRIVATE ${PROJECT_SOURCE_DIR}/cmake/Precompiled.h)
+endif()
+
+# kav_use_precompiled(TARGET USES library...): for a target that uses the toolkit's core library.
+function(kav_use_precompiled target)
+  if("kav_wx_core" IN_LIST ARGN)
+    target_precompile_headers(${target} REUSE_FROM kav_precompiled)
+  endif()
+endfunction()
+
 # kav_room(NAME SOURCES file... HEADERS file... USES library...)
 #
 # One room of the house as the static library kav_NAME. Headers form a file set, so that each is also compiled alone.
@@ -11,25 +28,32 @@ function(kav_room name)
     ${target}
     PUBLIC ${room_USES}
     PRIVATE kav_options)
-  set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ${KAV_WERROR})
+  set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ${KAV_VERIFY_HEADERS})
+  if(KAV_PRECOMPILE_ROOMS)
+    kav_use_precompiled(${target} ${room_USES})
+  endif()
 endfunction()
 
 # kav_tests(NAME SOURCES file... USES library...)
 #
-# The tests of one room as one program. Each test runs in a process of its own; tests that open windows share the
-# keyboard focus of one display and therefore take turns.
+# The tests of one room as one program. Each test runs in a process of its own, several at a time. Those that type, point
+# or look at the screen are named Screen... and have a display each: it has one keyboard focus and one pointer.
 function(kav_tests name)
-  cmake_parse_arguments(tests "WINDOWS" "" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(tests "" "" "SOURCES;USES" ${ARGN})
   set(target tests_${name})
   add_executable(${target} ${tests_SOURCES})
   target_link_libraries(${target} PRIVATE ${tests_USES} kav_options)
-  set(properties LABELS ${name} TIMEOUT 300)
-  if(tests_WINDOWS)
-    list(APPEND properties RESOURCE_LOCK display)
-  endif()
+  target_compile_options(${target} PRIVATE -O1)
+  kav_use_precompiled(${target} ${tests_USES})
+  set(common TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
   gtest_discover_tests(
-    ${target}
-    TEST_PREFIX "${name}."
-    DISCOVERY_TIMEOUT 60
-    PROPERTIES ${properties})
+    ${target} ${common}
+    TEST_FILTER -Screen*
+    TEST_LIST ${target}_list
+    PROPERTIES LABELS ${name} TIMEOUT 300)
+  gtest_discover_tests(
+    ${target} ${common}
+    TEST_FILTER Screen*
+    TEST_LIST ${target}_screen_list
+    PROPERTIES LABELS ${name} TIMEOUT 300 ENVIRONMENT KAV_OWN_DISPLAY=${PROJECT_SOURCE_DIR}/scripts/display)
 endfunction()

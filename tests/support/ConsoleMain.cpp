@@ -1,9 +1,11 @@
 #include "tests/support/FailOnAssert.h"
+#include "tests/support/OwnDisplay.h"
 
 #include <wx/init.h>
 
 int main(int argc, char** argv)
 {
+    TakeOwnDisplay(argv);
     testing::InitGoogleTest(&argc, argv);
     const wxInitializer toolkit;
     FailOnAssert();

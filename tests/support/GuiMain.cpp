@@ -1,4 +1,5 @@
 #include "tests/support/FailOnAssert.h"
+#include "tests/support/OwnDisplay.h"
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
@@ -36,6 +37,7 @@ wxIMPLEMENT_APP_NO_MAIN(TestApp);
 
 int main(int argc, char** argv)
 {
+    TakeOwnDisplay(argv);
     testing::InitGoogleTest(&argc, argv);
     // Tests are listed while the program is built, where there is no display.
     if (testing::GTEST_FLAG(list_tests))

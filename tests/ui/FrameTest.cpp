@@ -9,6 +9,7 @@
 namespace
 {
 using FrameTest = FrameFixture;
+using ScreenFrameTest = FrameFixture;
 
 TEST_F(FrameTest, GreetsWithItsNameAndTheToolkitsVersion)
 {
@@ -155,7 +156,7 @@ TEST_F(FrameTest, ClosesAtOnceOnClose)
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(FrameTest, QuitsByItsAccelerator)
+TEST_F(ScreenFrameTest, QuitsByItsAccelerator)
 {
     const wxWeakRef<wxWindow> window(frame);
     frame->Raise();

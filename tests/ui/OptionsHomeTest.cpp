@@ -34,6 +34,8 @@ protected:
     ui::PositionRow longitude{};
 };
 
+using ScreenOptionsHome = OptionsHome;
+
 TEST_F(OptionsHome, OpensWithAllFormsOfThePosition)
 {
     EXPECT_EQ(latitude.decimal->GetValue(), "55.6875");
@@ -157,7 +159,7 @@ TEST_F(OptionsHome, TakesTheLocatorFromThePosition)
     EXPECT_EQ(locator->GetValue(), "AK00AA");
 }
 
-TEST_F(OptionsHome, AcceptsOnlyTheCharactersOfNumbersFromTheKeyboard)
+TEST_F(ScreenOptionsHome, AcceptsOnlyTheCharactersOfNumbersFromTheKeyboard)
 {
     dialog->Show();
     dialog->m_book->SetSelection(8);

@@ -7,7 +7,7 @@
 
 namespace
 {
-class OptionsKeyboard : public OptionsFixture
+class ScreenOptionsKeyboard : public OptionsFixture
 {
 protected:
     void Press(int key, int modifiers = wxMOD_NONE)
@@ -84,31 +84,31 @@ protected:
     wxUIActionSimulator keyboard;
 };
 
-TEST_F(OptionsKeyboard, EnterIsOkFromAField)
+TEST_F(ScreenOptionsKeyboard, EnterIsOkFromAField)
 {
     EXPECT_EQ(PressIn(dialog->m_settingsPage.size, WXK_RETURN), wxID_OK);
 }
 
-TEST_F(OptionsKeyboard, EnterIsOkFromANumber)
+TEST_F(ScreenOptionsKeyboard, EnterIsOkFromANumber)
 {
     EXPECT_EQ(PressIn(dialog->m_settingsPage.meridians.alpha, WXK_RETURN), wxID_OK);
 }
 
-TEST_F(OptionsKeyboard, EnterIsOkFromTheExplanation)
+TEST_F(ScreenOptionsKeyboard, EnterIsOkFromTheExplanation)
 {
     dialog->m_book->SetSelection(6);
     dialog->m_voacapPage.book->SetSelection(1);
     EXPECT_EQ(PressIn(dialog->m_voacapPage.appearance.explanation, WXK_RETURN), wxID_OK);
 }
 
-TEST_F(OptionsKeyboard, EscapeIsCancel)
+TEST_F(ScreenOptionsKeyboard, EscapeIsCancel)
 {
     Type(dialog->m_settingsPage.size, "123");
     EXPECT_EQ(PressIn(dialog->m_settingsPage.size, WXK_ESCAPE), wxID_CANCEL);
     EXPECT_EQ(settings.size, 900);
 }
 
-TEST_F(OptionsKeyboard, TabReachesEveryControlInReadingOrder)
+TEST_F(ScreenOptionsKeyboard, TabReachesEveryControlInReadingOrder)
 {
     dialog->Show();
     for (std::size_t i = 0; i < dialog->m_book->GetPageCount(); ++i)

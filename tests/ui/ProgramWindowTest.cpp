@@ -127,7 +127,7 @@ bool Await(Condition condition)
     return false;
 }
 
-TEST(ProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
+TEST(ScreenProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
 {
     const TemporaryHome home;
     const Screen screen;
