@@ -15,15 +15,35 @@ function(kav_use_precompiled target)
   endif()
 endfunction()
 
+# kav_alone(OUT SOURCES HEADERS): the headers that no source of the same name proves to be whole by including it first.
+function(kav_alone out sources headers)
+  foreach(source ${sources})
+    string(REGEX REPLACE "\\.cpp$" ".h" header ${source})
+    if(header IN_LIST headers)
+      file(STRINGS ${source} first REGEX "^#include" LIMIT_COUNT 1)
+      file(RELATIVE_PATH path ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/${header})
+      if(NOT first STREQUAL "#include \"${path}\"")
+        message(FATAL_ERROR "${source} must include \"${path}\" first: that proves that the header can stand alone.")
+      endif()
+      list(REMOVE_ITEM headers ${header})
+    endif()
+  endforeach()
+  set(${out} ${headers} PARENT_SCOPE)
+endfunction()
+
 # kav_room(NAME SOURCES file... HEADERS file... USES library...)
 #
-# One room of the house as the static library kav_NAME. Headers form a file set, so that each is also compiled alone.
+# One room of the house as the static library kav_NAME. Every header can be included alone: its source includes it
+# first, or it is compiled by itself.
 function(kav_room name)
   cmake_parse_arguments(room "" "" "SOURCES;HEADERS;USES" ${ARGN})
   set(target kav_${name})
   add_library(${target} STATIC ${room_SOURCES})
-  target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${room_HEADERS})
+  kav_alone(alone "${room_SOURCES}" "${room_HEADERS}")
+  target_sources(
+    ${target} PUBLIC FILE_SET alone TYPE HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${alone})
   target_compile_features(${target} PUBLIC cxx_std_20)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(
     ${target}
     PUBLIC ${room_USES}
