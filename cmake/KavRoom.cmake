@@ -1,17 +1,27 @@
 # Most of the time of a compilation goes into reading the headers of the toolkit and of the test library. Tests get them
 # read beforehand, the rooms only where they are built a second time: what a room includes is checked without.
+# Tests are not optimised: compiling them takes longer than running them.
+set(kav_test_options -O0)
+
+function(kav_precompiled name)
+  add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/Precompiled.cpp)
+  target_link_libraries(${name} PRIVATE kav_wx_core GTest::gmock kav_options)
+  target_compile_options(${name} PRIVATE ${ARGN})
+  target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/Precompiled.h)
+endfunction()
+
 if(KAV_TESTS)
   find_package(GTest REQUIRED)
-  add_library(kav_precompiled OBJECT ${PROJECT_SOURCE_DIR}/cmake/Precompiled.cpp)
-  target_link_libraries(kav_precompiled PRIVATE kav_wx_core GTest::gmock kav_options)
-  target_compile_options(kav_precompiled PRIVATE -O1)
-  target_precompile_headers(kav_precompiled PRIVATE ${PROJECT_SOURCE_DIR}/cmake/Precompiled.h)
+  kav_precompiled(kav_precompiled_tests ${kav_test_options})
+endif()
+if(KAV_PRECOMPILE_ROOMS)
+  kav_precompiled(kav_precompiled_rooms)
 endif()
 
-# kav_use_precompiled(TARGET USES library...): for a target that uses the toolkit's core library.
-function(kav_use_precompiled target)
+# kav_use_precompiled(TARGET FROM USES library...): for a target that uses the toolkit's core library.
+function(kav_use_precompiled target from)
   if("kav_wx_core" IN_LIST ARGN)
-    target_precompile_headers(${target} REUSE_FROM kav_precompiled)
+    target_precompile_headers(${target} REUSE_FROM ${from})
   endif()
 endfunction()
 
@@ -50,7 +60,7 @@ function(kav_room name)
     PRIVATE kav_options)
   set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ${KAV_VERIFY_HEADERS})
   if(KAV_PRECOMPILE_ROOMS)
-    kav_use_precompiled(${target} ${room_USES})
+    kav_use_precompiled(${target} kav_precompiled_rooms ${room_USES})
   endif()
 endfunction()
 
@@ -63,8 +73,8 @@ function(kav_tests name)
   set(target tests_${name})
   add_executable(${target} ${tests_SOURCES})
   target_link_libraries(${target} PRIVATE ${tests_USES} kav_options)
-  target_compile_options(${target} PRIVATE -O1)
-  kav_use_precompiled(${target} ${tests_USES})
+  target_compile_options(${target} PRIVATE ${kav_test_options})
+  kav_use_precompiled(${target} kav_precompiled_tests ${tests_USES})
   set(common TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
   gtest_discover_tests(
     ${target} ${common}
