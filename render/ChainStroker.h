@@ -15,9 +15,8 @@ namespace render
  * time, which is much faster.
  *
  * Strokes without smoothing close gaps of one pixel between parts of one path that lie side by side. Therefore a path
- * is only made of segments that join and never turn back in y: there each row of pixels is crossed once. (Pens up to 8
- * pixels wide; with wider ones a pixel on the outside of a bend may be missing.) Segments that cannot touch the picture
- * are left out.
+ * is only made of segments that join and never turn back in y: there each row of pixels is crossed once. Pens whose
+ * bends would lose pixels draw one by one. Segments that cannot touch the picture are left out.
  *
  * The last segments reach the picture when this object goes.
  */
@@ -35,6 +34,7 @@ public:
 
 private:
     static constexpr std::size_t kMaxPoints = 100;
+    static constexpr std::size_t kOneSegment = 2;
 
     bool MissesPicture(geo::Pixel from, geo::Pixel to) const;
     bool Continues(geo::Pixel from, int direction) const;
@@ -42,7 +42,8 @@ private:
     void Stroke();
 
     wxDC& m_dc;
-    int m_reach; ///< how far the pen marks the surroundings of a segment, at most
+    int m_reach;           ///< how far the pen marks the surroundings of a segment, at most
+    std::size_t m_longest; ///< points of a path
     wxSize m_size;
     std::array<wxPoint2DDouble, kMaxPoints> m_points;
     std::size_t m_count = 0;

@@ -102,12 +102,34 @@ protected:
 
 TEST_F(ChainStrokerTest, LeavesTheSamePixelsAsLinesOneByOne)
 {
-    for (const int width : {1, 2, 3, 4, 5, 6, 7, 8})
-        for (const int step : {1, 2, 3, 8, 40})
+    for (int width = 0; width <= 20; ++width)
+        for (const int step : {2, 8, 40})
         {
             SCOPED_TRACE(step);
             ExpectTheSamePixelsAsOneByOne(Wander(400, step), width);
         }
+}
+
+TEST_F(ChainStrokerTest, LosesNoPixelOutsideOfABend)
+{
+    // In one path each of these bends loses a pixel with some pen: of 3, 6, 9, 10, 14, 17, 19 and 20 pixels.
+    struct Bend
+    {
+        geo::Pixel before, after;
+    };
+    Segments segments;
+    geo::Pixel middle{30, 100};
+    for (const Bend& bend :
+         {Bend{{8, 3}, {7, 12}}, Bend{{4, 1}, {17, 15}}, Bend{{-13, 8}, {-13, 4}}, Bend{{-11, 13}, {-7, 4}},
+          Bend{{-13, 7}, {-12, 2}}, Bend{{-12, 13}, {-10, 9}}, Bend{{-13, 3}, {-11, 4}}, Bend{{-5, 7}, {-12, 10}}})
+    {
+        segments.push_back({{middle.x - bend.before.x, middle.y - bend.before.y}, middle});
+        segments.push_back({middle, {middle.x + bend.after.x, middle.y + bend.after.y}});
+        middle.x += 33;
+        middle.y = 300 - middle.y;
+    }
+    for (int width = 0; width <= 20; ++width)
+        ExpectTheSamePixelsAsOneByOne(segments, width);
 }
 
 TEST_F(ChainStrokerTest, KeepsAGapOfOnePixel)

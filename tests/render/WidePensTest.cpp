@@ -1,0 +1,99 @@
+#include "render/BorderLines.h"
+#include "render/Compass.h"
+#include "render/DiscDrawing.h"
+#include "render/DiscGeometry.h"
+#include "render/GridLines.h"
+#include "render/Radials.h"
+#include "tests/support/LayerFixture.h"
+
+#include <algorithm>
+
+namespace
+{
+/// Layers of lines with pens of every width, compared with lines that the toolkit draws one by one.
+class WidePensTest : public LayerFixture
+{
+protected:
+    static constexpr int kSide = 450;
+
+    WidePensTest() { settings.size = kSide; }
+
+    template <class Draw>
+    static wxImage Picture(Draw draw, int width)
+    {
+        render::Layer layer(kSide);
+        draw(layer.Begin(*wxBLACK, width));
+        return layer.TakeImage();
+    }
+
+    /// @param[in] trace gets a context and what draws a line on it.
+    template <class DrawLayer, class Trace>
+    static void ExpectSingleLines(DrawLayer drawLayer, Trace trace)
+    {
+        const auto drawLines = [&](wxDC& dc)
+        {
+            auto line = [&dc](geo::Pixel from, geo::Pixel to) { dc.DrawLine(from.x, from.y, to.x, to.y); };
+            trace(dc, line);
+        };
+        for (int width = 0; width <= 20; ++width)
+        {
+            const wxImage layer = Picture(drawLayer, width);
+            const wxImage lines = Picture(drawLines, width);
+            EXPECT_TRUE(std::equal(lines.GetData(), lines.GetData() + 3 * kSide * kSide, layer.GetData()))
+                << "width " << width;
+        }
+    }
+};
+
+TEST_F(WidePensTest, DrawGridLinesLikeSingleLines)
+{
+    const MapView view = View();
+    ExpectSingleLines([&](wxDC& dc) { render::DrawGridLines(dc, view, render::kMeridianGrid); },
+                      [&](wxDC&, auto& line) { render::TraceGridLines(view, render::kMeridianGrid, line); });
+}
+
+TEST_F(WidePensTest, DrawBordersLikeSingleLines)
+{
+    settings.zoom = 2500;
+    const MapView view = View();
+    const wxString file = KAV_DATA_DIR "/mapper.pnt";
+    ExpectSingleLines([&](wxDC& dc) { render::DrawBorderLines(dc, view, file); },
+                      [&](wxDC&, auto& line)
+                      {
+                          render::BorderFile points(file);
+                          render::BorderTracer tracer(view);
+                          for (render::BorderRecord record{}; points.Next(record);)
+                              tracer.Add(record, line);
+                      });
+}
+
+TEST_F(WidePensTest, DrawRadialsLikeSingleLines)
+{
+    const MapView view = View();
+    const render::DiscGeometry disc(view.frame);
+    ExpectSingleLines([&](wxDC& dc) { render::DrawRadials(dc, view, 0); },
+                      [&](wxDC&, auto& line)
+                      {
+                          for (int degree = 0; degree < 360; degree += 5)
+                              line({disc.centre, disc.centre}, disc.At(degree, disc.radius));
+                      });
+}
+
+TEST_F(WidePensTest, DrawTheCompassLikeSingleLines)
+{
+    const MapView view = View();
+    const render::DiscGeometry disc(view.frame);
+    const int tickLength = render::CompassTickLength(view.frame);
+    ExpectSingleLines([&](wxDC& dc) { render::DrawCompass(dc, view); },
+                      [&](wxDC& dc, auto& line)
+                      {
+                          for (const int radius : {4, disc.radius, disc.radius - tickLength})
+                              render::DrawCircle(dc, disc, radius);
+                          for (int degree = 0; degree < 360; ++degree)
+                          {
+                              const render::CompassTick tick = render::CompassTickAt(disc, tickLength, degree);
+                              line(tick.outer, tick.inner);
+                          }
+                      });
+}
+} // namespace
