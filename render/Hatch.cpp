@@ -1,6 +1,7 @@
 #include "render/Hatch.h"
 
 #include <wx/bitmap.h>
+#include <wx/graphics.h>
 #include <wx/image.h>
 
 #include <algorithm>
@@ -45,6 +46,18 @@ const Pattern& PatternOf(int stipple)
 {
     return kPatterns[static_cast<std::size_t>(std::clamp(stipple, 0, static_cast<int>(kPatterns.size()) - 1))];
 }
+
+/// Through the middles of the pixels, as the outline runs: without a pen the toolkit would fill from the corners of the
+/// pixels, and leave holes beside the right and lower edges.
+wxGraphicsPath PathThrough(wxGraphicsContext& context, std::span<const wxPoint> corners)
+{
+    constexpr double kMiddle = 0.5;
+    wxGraphicsPath path = context.CreatePath();
+    for (const wxPoint& corner : corners)
+        path.AddLineToPoint(corner.x + kMiddle, corner.y + kMiddle);
+    path.CloseSubpath();
+    return path;
+}
 } // namespace
 
 // The toolkit's own hatch brushes are smoothed even where shapes are not.
@@ -55,13 +68,13 @@ Hatch::Hatch(int stipple, const wxColour& fillColour, const wxColour& borderColo
 
 void Hatch::FillPolygon(wxDC& dc, std::span<const wxPoint> corners) const
 {
-    const int count = static_cast<int>(corners.size());
     // In two steps: under a pen of one pixel the pattern would be shifted by half a pixel and smoothed.
     dc.SetPen(*wxTRANSPARENT_PEN);
     dc.SetBrush(m_fill);
-    dc.DrawPolygon(count, corners.data(), 0, 0, wxODDEVEN_RULE);
+    wxGraphicsContext& context = *dc.GetGraphicsContext();
+    context.FillPath(PathThrough(context, corners), wxODDEVEN_RULE);
     dc.SetPen(m_border);
     dc.SetBrush(*wxTRANSPARENT_BRUSH);
-    dc.DrawPolygon(count, corners.data());
+    dc.DrawPolygon(static_cast<int>(corners.size()), corners.data());
 }
 } // namespace render
