@@ -1,5 +1,6 @@
 #include "propagation/Legend.h"
 
+#include "render/BitmapPixels.h"
 #include "render/Layer.h"
 
 #include <wx/dcmemory.h>
@@ -51,30 +52,61 @@ struct Metrics
     int labelWidth = 0;
     int textHeight = 0;
 };
+/// A bitmap with nothing on it.
+wxBitmap TransparentBitmap(int width, int height)
+{
+    wxBitmap bitmap(width, height, 32);
+    const render::BitmapPixels pixels(bitmap);
+    for (int y = 0; y < height; ++y)
+        std::ranges::fill(pixels.Row(y), 0U);
+    return bitmap;
+}
+
+/// Darker than a grey in the middle; the channels are premultiplied by the opacity.
+bool IsDark(render::Argb pixel)
+{
+    const unsigned brightness = 299 * (pixel >> 16 & 255) + 587 * (pixel >> 8 & 255) + 114 * (pixel & 255);
+    return 2 * brightness < 1000 * (pixel >> 24);
+}
+
+/// Whether most of a place on an overlay is dark.
+bool IsMostlyDark(const render::BitmapPixels& overlay, const wxRect& place)
+{
+    const wxRect visible = place.Intersect(wxRect(0, 0, overlay.Width(), overlay.Height()));
+    std::ptrdiff_t dark = 0;
+    for (int y = visible.GetTop(); y <= visible.GetBottom(); ++y)
+        dark += std::ranges::count_if(
+            overlay.Row(y).subspan(static_cast<std::size_t>(visible.x), static_cast<std::size_t>(visible.width)),
+            IsDark);
+    return 2 * dark > static_cast<std::ptrdiff_t>(visible.width) * visible.height;
+}
 } // namespace
 
-Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, int side)
+Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, wxBitmap& overlay)
 {
+    const render::BitmapPixels ground(overlay);
     const wxString title = TitleOf(parameter);
     const Metrics metrics(title, scale, font);
     const int h = metrics.textHeight;
     Legend legend;
-    legend.top = side - kTitleRow * h;
-    legend.bitmap.Create(std::min(metrics.Width(), side), (kTitleRow - kLowestRow + 1) * h);
+    legend.top = ground.Height() - kTitleRow * h;
+    legend.bitmap = TransparentBitmap(std::min(metrics.Width(), ground.Width()), (kTitleRow - kLowestRow + 1) * h);
     wxMemoryDC dc(legend.bitmap);
     render::SwitchSmoothingOff(dc);
-    // Black on white reads well whatever the scale and the map look like.
-    dc.SetBackground(*wxWHITE_BRUSH);
-    dc.Clear();
     dc.SetFont(font);
-    dc.SetTextForeground(*wxBLACK);
     dc.SetPen(*wxBLACK_PEN);
-    dc.DrawText(title, kTextX, 0);
+    const auto write = [&](const wxString& text, int y)
+    {
+        const wxRect place(wxPoint(kTextX, legend.top + y), dc.GetTextExtent(text));
+        dc.SetTextForeground(IsMostlyDark(ground, place) ? *wxWHITE : *wxBLACK);
+        dc.DrawText(text, kTextX, y);
+    };
+    write(title, 0);
     for (std::size_t i = 0; i < scale.thresholds.size(); ++i)
     {
         const std::size_t k = scale.thresholds.size() - 1 - i;
         const int y = static_cast<int>(i + 1) * h;
-        dc.DrawText(LabelOf(scale.thresholds[k]), kTextX, y);
+        write(LabelOf(scale.thresholds[k]), y);
         dc.SetBrush(wxBrush(scale.colours[k]));
         dc.DrawRectangle(metrics.labelWidth + kBoxGap, y, metrics.BoxWidth(), h - 1);
     }

@@ -7,7 +7,7 @@
 
 namespace propagation
 {
-/// The legend of an overlay, opaque on white, and where it lies.
+/// The legend of an overlay, opaque on a transparent ground, and where it lies.
 struct Legend
 {
     wxBitmap bitmap;
@@ -15,9 +15,10 @@ struct Legend
 };
 
 /**
- * Title, thresholds and, beside each of these, a box in the colour of the class above it.
+ * Title, thresholds and, beside each of these, a box in the colour of the class above it. A text is black, or white
+ * where the overlay under it is dark.
  *
- * @param[in] side of the map in pixels; the legend is not made wider.
+ * @param[in] overlay for which it is; the legend is not made wider.
  */
-Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, int side);
+Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, wxBitmap& overlay);
 } // namespace propagation

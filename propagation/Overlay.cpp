@@ -89,7 +89,9 @@ void PutLegend(wxBitmap& overlay, Legend& legend, std::uint8_t alpha)
         const int targetY = legend.top + y;
         for (int x = 0; x < std::min(from.Width(), to.Width()); ++x)
         {
-            const Argb pixel = from.Row(y)[static_cast<std::size_t>(x)] | 0xFF000000;
+            const Argb pixel = from.Row(y)[static_cast<std::size_t>(x)];
+            if (pixel != (pixel | 0xFF000000)) // nothing there
+                continue;
             const bool outermost = IsOutermost(x, to.Width()) || IsOutermost(targetY, to.Height());
             to.Row(targetY)[static_cast<std::size_t>(x)] = outermost ? pixel : WithAlpha(pixel, alpha);
         }

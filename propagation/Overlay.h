@@ -20,6 +20,7 @@ namespace propagation
 std::unique_ptr<wxBitmap> DrawOverlay(const MapView& view, std::span<const std::uint32_t> worldClasses,
                                       const ClassScale& scale, std::uint8_t alpha);
 
-/// Puts a legend on an overlay, with the opacity that the overlay has there.
+/// Puts a legend on an overlay, with the opacity that the overlay has there. Between its marks the overlay stays as it
+/// is.
 void PutLegend(wxBitmap& overlay, Legend& legend, std::uint8_t alpha);
 } // namespace propagation

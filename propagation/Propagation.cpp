@@ -84,7 +84,7 @@ void Propagation::Draw(const ResultGrid& result)
     if (p.legend == 1)
     {
         const wxFont font = render::FontFromSetting(m_settings.compass.text.font);
-        Legend legend = DrawLegend(ParameterOf(p.parameter), scale, font, m_view.frame.mapSize);
+        Legend legend = DrawLegend(ParameterOf(p.parameter), scale, font, *overlay);
         PutLegend(*overlay, legend, alpha);
     }
     m_picture.propagationBitmap = std::move(overlay);
