@@ -4,6 +4,8 @@
 #include "geo/Locator.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace
@@ -39,6 +41,23 @@ bool ReadSetting(wxConfigBase& file, const wxString& key, Value& member, const V
     }
     return good;
 }
+
+/// The fewest digits that read back as the same number; the toolkit would write six.
+wxString ExactText(double number)
+{
+    std::array<char, 32> text; // 24 characters at most
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general).ptr;
+    return wxString::FromAscii(text.data(), static_cast<std::size_t>(end - text.data()));
+}
+
+template <class Value>
+void WriteSetting(wxConfigBase& file, const wxString& key, const Value& member)
+{
+    if constexpr (std::is_same_v<Value, double>)
+        file.Write(key, ExactText(member));
+    else
+        file.Write(key, member);
+}
 } // namespace
 
 // The toolkit keeps quiet for as long as the base opens its files: damaged files are not reported.
@@ -61,7 +80,7 @@ void Configuration::ReadAll()
         [this]<class Value>(const wxString& key, Value& member, const auto& fallback)
         {
             if (!ReadSetting(*this, key, member, Value(fallback)))
-                Write(key, member);
+                WriteSetting(*this, key, member);
         });
 }
 
@@ -80,7 +99,8 @@ void Configuration::WriteAll()
 
 void Configuration::WriteAllTo(wxConfigBase& target)
 {
-    ForEachSetting([&target](const wxString& key, const auto& member, const auto&) { target.Write(key, member); });
+    ForEachSetting([&target](const wxString& key, const auto& member, const auto&)
+                   { WriteSetting(target, key, member); });
 }
 
 void Configuration::LatLonToLocator(wxString& locator, double lat, double lon)

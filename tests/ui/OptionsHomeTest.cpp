@@ -181,4 +181,17 @@ TEST_F(ScreenOptionsHome, AcceptsOnlyTheCharactersOfNumbersFromTheKeyboard)
     EXPECT_EQ(typeInto(longitude.sec), "42");
     EXPECT_EQ(typeInto(latitude.decimal), "4-.2");
 }
+
+TEST_F(OptionsHome, KeepsEveryDigitOfAPositionThatIsNotTouched)
+{
+    settings.centreLat = -33.867851234567;
+    settings.centreLon = 151.20929;
+    Open();
+    EXPECT_EQ(dialog->m_homePage.latitude.decimal->GetValue(), "-33.867851");
+    EXPECT_EQ(dialog->m_homePage.longitude.decimal->GetValue(), "151.20929");
+    ClickOk();
+    EXPECT_EQ(settings.centreLat, -33.867851234567);
+    EXPECT_EQ(settings.centreLon, 151.20929);
+    EXPECT_NE(home.Read(".Kavdex").find("Lon=151.20929\n"), std::string::npos);
+}
 } // namespace
