@@ -1,21 +1,10 @@
 #include "config/DataFile.h"
 
+#include "config/SpecialFile.h"
+
 #include <wx/filename.h>
 #include <wx/log.h>
 #include <wx/stdpaths.h>
-
-#include <sys/stat.h>
-
-namespace
-{
-bool IsPipeOrDevice(const wxString& path)
-{
-    struct stat status
-    {
-    };
-    return stat(path.fn_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
-}
-} // namespace
 
 wxString FindDataFile(const wxString& name)
 {
@@ -31,8 +20,9 @@ wxString FindDataFile(const wxString& name)
 bool OpenDataFile(wxFile& file, const wxString& name)
 {
     const wxString path = FindDataFile(name);
-    if (!IsPipeOrDevice(path))
+    const char* const obstacle = SpecialFileAt(path.fn_str());
+    if (!obstacle)
         return file.Open(path);
-    wxLogError("can't open file '%s': it is a pipe or a device", path);
+    wxLogError("can't open file '%s': %s", path, obstacle);
     return false;
 }

@@ -15,7 +15,6 @@ wxString FindDataFile(const wxString& name);
 /**
  * Opens a file named in the settings for reading, where FindDataFile() finds it.
  *
- * @return whether it is open; the toolkit's log says why not. Pipes and devices are no files: one might wait for them
- * for ever.
+ * @return whether it is open; the toolkit's log says why not. See SpecialFileAt() for what is refused.
  */
 bool OpenDataFile(wxFile& file, const wxString& name);

@@ -1,29 +1,83 @@
 #include "render/PictureFile.h"
 
+#include "config/SpecialFile.h"
+
 #include <wx/filefn.h>
-#include <wx/filename.h>
 #include <wx/log.h>
-#include <wx/wfstream.h>
+#include <wx/stream.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
+#include <string>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace render
 {
 namespace
 {
-bool WritePicture(const wxImage& picture, const wxString& path, wxBitmapType type)
+/// What went wrong, as the system numbers it; 0 where the system has nothing to say.
+using ErrorNumber = int;
+
+/// Writes everything to a file or keeps the first error; the toolkit's own stream forgets what did not fit any more.
+class PictureStream : public wxOutputStream
 {
-    wxFileOutputStream file(path);
-    // Some writers close the stream, so its last error is asked for, not whether it is open.
-    return picture.SaveFile(file, type) && file.GetLastError() == wxSTREAM_NO_ERROR;
-}
+public:
+    /// @param[in] file descriptor of an open file, which is closed with the stream.
+    explicit PictureStream(int file) : m_file(file) {}
+    ~PictureStream() override { Close(); }
+    PictureStream(const PictureStream&) = delete;
+    PictureStream& operator=(const PictureStream&) = delete;
+
+    bool Close() override
+    {
+        if (m_file >= 0 && close(std::exchange(m_file, -1)) != 0)
+            Fail();
+        return IsOk();
+    }
+    bool IsSeekable() const override { return true; }
+    ErrorNumber FirstError() const { return m_error; }
+
+protected:
+    std::size_t OnSysWrite(const void* bytes, std::size_t count) override
+    {
+        std::size_t written = 0;
+        while (m_error == 0 && written < count)
+        {
+            const ssize_t part = write(m_file, static_cast<const char*>(bytes) + written, count - written);
+            if (part >= 0)
+                written += static_cast<std::size_t>(part);
+            else if (errno != EINTR)
+                Fail();
+        }
+        m_lasterror = m_error == 0 ? wxSTREAM_NO_ERROR : wxSTREAM_WRITE_ERROR;
+        return written;
+    }
+    wxFileOffset OnSysSeek(wxFileOffset offset, wxSeekMode mode) override
+    {
+        static constexpr std::array kOrigins{SEEK_SET, SEEK_CUR, SEEK_END}; // in the order of wxSeekMode
+        return lseek(m_file, offset, kOrigins[static_cast<std::size_t>(mode)]);
+    }
+    wxFileOffset OnSysTell() const override { return lseek(m_file, 0, SEEK_CUR); }
+
+private:
+    void Fail()
+    {
+        if (m_error == 0)
+            m_error = errno;
+        m_lasterror = wxSTREAM_WRITE_ERROR;
+    }
+
+    int m_file;
+    ErrorNumber m_error = 0;
+};
 
 /// Gives a complete file the place and the permissions of another that may be there.
-bool TakePlaceOf(const wxString& path, const wxString& complete)
+bool TakePlaceOf(const wxString& path, const std::string& complete)
 {
     const mode_t mask = umask(0);
     umask(mask);
@@ -31,15 +85,36 @@ bool TakePlaceOf(const wxString& path, const wxString& complete)
     {
     };
     const bool exists = stat(path.fn_str(), &older) == 0;
-    return chmod(complete.fn_str(), exists ? older.st_mode & 0777 : 0666 & ~mask) == 0 &&
-           std::rename(complete.fn_str(), path.fn_str()) == 0;
+    return chmod(complete.c_str(), exists ? older.st_mode & 0777 : 0666 & ~mask) == 0 &&
+           std::rename(complete.c_str(), path.fn_str()) == 0;
 }
 
-/// A new empty file in the directory of another; empty if there can't be one.
-wxString NewFileBeside(const wxString& path)
+wxString TextOf(ErrorNumber error)
 {
-    const wxLogNull silent;
-    return wxFileName::CreateTempFileName(path);
+    return error == 0 ? wxString("the toolkit can't encode it") : wxString(wxSysErrorMsgStr(error));
+}
+
+/**
+ * Writes a picture beside its place and renames it, so that a failure leaves an older one alone.
+ *
+ * @return why that failed; empty if it did not.
+ */
+wxString WriteInPlaceOf(const wxString& target, const wxImage& picture, wxBitmapType type)
+{
+    if (const char* const obstacle = SpecialFileAt(target.fn_str()))
+        return obstacle;
+    std::string beside = std::string(target.fn_str()) + "XXXXXX";
+    const int file = mkstemp(beside.data());
+    if (file < 0)
+        return TextOf(errno);
+    PictureStream stream(file);
+    const wxLogNull oneMessageIsEnough;
+    const bool isWritten = picture.SaveFile(stream, type) && stream.FirstError() == 0 && stream.Close();
+    if (isWritten && TakePlaceOf(target, beside))
+        return "";
+    const wxString reason = TextOf(isWritten ? errno : stream.FirstError());
+    unlink(beside.c_str());
+    return reason;
 }
 
 /// Where a name leads to: a link stays a link.
@@ -74,16 +149,9 @@ bool SavePicture(wxImage picture, const wxString& path)
         return false;
     }
     picture.SetOption(wxIMAGE_OPTION_QUALITY, 90);
-    // Written beside the target and renamed, so that a failure leaves an older picture alone.
-    const wxString target = Resolved(path);
-    const wxString beside = NewFileBeside(target);
-    if (!beside.empty())
-    {
-        if (WritePicture(picture, beside, *PictureTypeOf(path)) && TakePlaceOf(target, beside))
-            return true;
-        wxRemoveFile(beside);
-    }
-    wxLogError("Couldn't write the picture %s", path);
-    return false;
+    const wxString reason = WriteInPlaceOf(Resolved(path), picture, *PictureTypeOf(path));
+    if (!reason.empty())
+        wxLogError("Couldn't write the picture %s: %s", path, reason);
+    return reason.empty();
 }
 } // namespace render

@@ -14,8 +14,8 @@ std::optional<wxBitmapType> PictureTypeOf(const wxString& path);
 /**
  * Writes a picture in the format that its path names, JPEG at quality 90.
  *
- * It appears whole or not at all: a file that was there is replaced only by a complete one. Failures are reported by
- * the toolkit's log.
+ * It appears whole or not at all: a file that was there is replaced only by a complete one; what is no file, as a
+ * directory or a pipe, is left alone. The toolkit's log says what failed and why.
  *
  * @param[in] picture an invalid one stands for a lack of memory.
  * @pre PictureTypeOf(path) has a value.

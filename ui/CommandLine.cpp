@@ -1,12 +1,15 @@
 #include "ui/CommandLine.h"
 
+#include "config/SpecialFile.h"
+
 #include <wx/chartype.h>
 #include <wx/version.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 #include <getopt.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace ui
@@ -41,13 +44,12 @@ CommandLine Done(int status)
     return line;
 }
 
-bool IsReadableFile(const char* path)
+/// Why a settings file can't be read; none if it can. The empty device stands for a file without settings.
+const char* ObstacleTo(const std::string& path)
 {
-    struct stat status
-    {
-    };
-    const bool isFile = stat(path, &status) == 0 && (S_ISREG(status.st_mode) || S_ISCHR(status.st_mode));
-    return isFile && access(path, R_OK) == 0;
+    if (access(path.c_str(), R_OK) != 0)
+        return std::strerror(errno);
+    return path == "/dev/null" ? nullptr : SpecialFileAt(path.c_str());
 }
 
 CommandLine WrongUse(const std::string& what)
@@ -93,9 +95,9 @@ CommandLine ParseCommandLine(int argc, char** argv)
             std::printf("Kavmap 3.1.9\n%ls\n", wxVERSION_STRING);
             return Done(0);
         case 's':
-            if (!IsReadableFile(optarg))
-                return WrongUse(std::string("can't read the settings file ") + optarg);
             line.settings = optarg;
+            if (const char* const obstacle = ObstacleTo(optarg))
+                return WrongUse("can't read the settings file " + *line.settings + ": " + obstacle);
             break;
         case 'r':
             line.render = optarg;

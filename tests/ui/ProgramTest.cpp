@@ -150,10 +150,10 @@ TEST_F(ProgramTest, SaysWhenThePictureCannotBeWritten)
 {
     home.Write("small.ini", "Size=120\n");
     EXPECT_EQ(Run("-s small.ini -r nowhere/map.png"), 1);
-    EXPECT_EQ(Err(), "kavmap: Couldn't write the picture nowhere/map.png\n");
+    EXPECT_EQ(Err(), "kavmap: Couldn't write the picture nowhere/map.png: No such file or directory\n");
     wxFileName::Mkdir(home.Path("dir.png"));
     EXPECT_EQ(Run("-s small.ini -r dir.png"), 1);
-    EXPECT_EQ(Err(), "kavmap: Couldn't write the picture dir.png\n");
+    EXPECT_EQ(Err(), "kavmap: Couldn't write the picture dir.png: it is a directory\n");
 }
 
 TEST_F(ProgramTest, SaysWhenTheDiscIsFull)
@@ -167,7 +167,10 @@ TEST_F(ProgramTest, SaysWhenTheDiscIsFull)
                                     " -s small.ini -r map.bmp' 2>err.txt")
                                        .c_str());
     EXPECT_EQ(WEXITSTATUS(status), 1);
-    EXPECT_FALSE(wxFileName::Exists(home.Path("map.bmp")));
+    EXPECT_EQ(Err(), "kavmap: Couldn't write the picture map.bmp: File too large\n");
+    wxArrayString files;
+    wxDir::GetAllFiles(home.Path(""), &files, "map.bmp*");
+    EXPECT_EQ(files.size(), 0u);
 }
 
 TEST_F(ProgramTest, TakesFileNamesOutsideAsciiInAnyLocale)
@@ -214,6 +217,43 @@ TEST_F(ProgramTest, WaitsForNoPipe)
     home.Write("pipe.ini", "Size=100\n[SourceBitmap]\nShow1=1\nFile1=pipe\n");
     EXPECT_EQ(Run("-s pipe.ini -r a.png"), 1);
     EXPECT_THAT(Err(), HasSubstr("Error creating bitmap in function OnCreateMap1"));
+}
+
+TEST_F(ProgramTest, WaitsForNoPipeInPlaceOfSettingsAResultOrThePicture)
+{
+    ASSERT_EQ(mkfifo(home.Path("pipe.png").utf8_str(), 0600), 0);
+    for (const std::string path : {"pipe.png", "/dev/zero"})
+    {
+        EXPECT_EQ(Run("-s " + path + " -r a.png"), 1);
+        EXPECT_EQ(Err(), "kavmap: can't read the settings file " + path + ": it is a pipe or a device\n");
+    }
+    home.Write("result.ini", "Size=100\n[Propagation]\nShow=1\nExtVg1=1\nExtVg1File=pipe.png\n");
+    EXPECT_EQ(Run("-s result.ini -r a.png"), 2);
+    EXPECT_EQ(Err(), "kavmap: File open error in Prop\n");
+    home.Write("small.ini", "Size=100\n");
+    EXPECT_EQ(Run("-s small.ini -r pipe.png"), 1);
+    EXPECT_EQ(Err(), "kavmap: Couldn't write the picture pipe.png: it is a pipe or a device\n");
+    struct stat status;
+    ASSERT_EQ(stat(home.Path("pipe.png").utf8_str(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
+TEST_F(ProgramTest, NamesADirectoryInPlaceOfAFile)
+{
+    wxFileName::Mkdir(home.Path("folder"));
+    for (const char* key : {"[Borders]\nShow2=1\nFile2", "[PlotSquares]\nShow1=1\nFile1"})
+    {
+        home.Write("folder.ini", std::string("Size=100\n") + key + "=folder\n");
+        EXPECT_EQ(Run("-s folder.ini -r a.png"), 2) << key;
+        EXPECT_EQ(Err(), "kavmap: can't open file 'folder': it is a directory\n") << key;
+    }
+    home.Write("folder.ini", "Size=100\n[Text]\nShow1=1\nFile1=folder\n");
+    EXPECT_EQ(Run("-s folder.ini -r a.png"), 2);
+    EXPECT_EQ(Err(), "kavmap: Error opening file folder\n");
+    EXPECT_EQ(Run("-s folder -r a.png"), 1);
+    EXPECT_EQ(Err(), "kavmap: can't read the settings file folder: it is a directory\n");
+    EXPECT_EQ(Run("-s gone.ini -r a.png"), 1);
+    EXPECT_EQ(Err(), "kavmap: can't read the settings file gone.ini: No such file or directory\n");
 }
 
 TEST_F(ProgramTest, EndsWithTwoWhereTheMapLacksALayer)

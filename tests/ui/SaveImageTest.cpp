@@ -1,4 +1,5 @@
 #include "tests/support/FrameFixture.h"
+#include "tests/support/LayerFixture.h"
 #include "tests/support/Pictures.h"
 
 #include <wx/filename.h>
@@ -122,5 +123,16 @@ TEST_F(SaveImageTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten)
     SaveAs(home.Path("missing/map.png"));
     EXPECT_TRUE(wxFileName::DirExists(home.Path("target.png")));
     EXPECT_EQ(home.Read("directory/map.png"), "precious");
+}
+
+TEST_F(SaveImageTest, SaysWhyThePictureCannotBeWritten)
+{
+    const wxString path = home.Path("link.png");
+    std::filesystem::create_symlink(home.Path("missing/map.png").utf8_string(), path.utf8_string());
+    const LogLines log;
+    SaveAs(path);
+    ASSERT_EQ(log.lines.size(), 1u);
+    EXPECT_TRUE(log.lines[0].EndsWith("Couldn't write the picture " + path + ": No such file or directory"))
+        << log.lines[0];
 }
 } // namespace
