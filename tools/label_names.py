@@ -46,6 +46,15 @@ LEFT_OUT = {
     "København",  # the table of cities has it as Copenhagen too
 }
 
+# Far from the country that they belong to, and without an entry of their own in the table: ISO code, that country, and
+# latitude and longitude of a place in the piece of land that bears the label.
+DISTANT_PARTS = {
+    "French Guiana": ("GF", "France", 4.0, -53.0),
+    "Mayotte": ("YT", "France", -12.85, 45.15),
+    "Réunion": ("RE", "France", -21.1, 55.5),
+    "Svalbard": ("SJ", "Norway", 79.0, 16.5),
+}
+
 # Latitude and longitude where the largest piece of land is not where one looks for the name.
 POSITIONS = {
     "Antarctica": (-80.0, 60.0),

@@ -19,7 +19,15 @@ import re
 import unicodedata
 
 import shipped
-from label_names import CAPITAL_NAMES, CAPITALS_IN_CITY_TABLE, CITY_NAMES, COUNTRY_NAMES, LEFT_OUT, POSITIONS
+from label_names import (
+    CAPITAL_NAMES,
+    CAPITALS_IN_CITY_TABLE,
+    CITY_NAMES,
+    COUNTRY_NAMES,
+    DISTANT_PARTS,
+    LEFT_OUT,
+    POSITIONS,
+)
 
 LARGE_CITY = 1_000_000
 TINY_RANK = 6  # the label rank that Natural Earth gives to most of the small countries
@@ -50,8 +58,11 @@ def countries(sources):
     found = {}
     for feature in read_json(sources, "ne50_countries_rings.json")["features"]:
         country = feature["properties"]
-        largest = max(feature["geometry"]["coordinates"], key=lambda ring: abs(area(ring)))
+        rings = feature["geometry"]["coordinates"]
+        largest = max(rings, key=lambda ring: abs(area(ring)))
         found[country["name"]] = (int(country["labelrank"]), country, label_position(largest))
+        for name, part in distant_parts(country["name"], rings):
+            found[name] = (TINY_RANK, part, label_position(part["ring"]))
     with (sources / "ne50_tiny_countries.csv").open(encoding="utf-8", newline="") as table:
         for country in csv.DictReader(table):
             position = float(country["lat"]), float(country["lon"])
@@ -64,6 +75,14 @@ def countries(sources):
             kind = "State" if country["type"] in ("Sovereign country", "Country") else "Territory"
             code = country["iso_a2"] if country["iso_a2"] not in (None, "NA") or name == "Namibia" else "-"
             yield code, COUNTRY_NAMES.get(name, name), kind, f"rank {rank}", *POSITIONS.get(name, position), "-"
+
+
+def distant_parts(country, rings):
+    """The parts of a country that have a label of their own."""
+    for name, (code, owner, latitude, longitude) in DISTANT_PARTS.items():
+        if owner == country:
+            ring = next(ring for ring in rings if inside((longitude, latitude), ring))
+            yield name, {"name": name, "iso_a2": code, "type": "Geo unit", "pop_est": 0, "ring": ring}
 
 
 def area(ring):
