@@ -135,7 +135,7 @@ void BitmapPixels::OpenImage()
 
 void BitmapPixels::WriteImageBack()
 {
-    wxImage image(m_width, m_height, false);
+    wxImage image(m_width, m_height);
     const bool hasAlpha = m_bitmap.HasAlpha();
     if (hasAlpha)
         image.InitAlpha();

@@ -35,11 +35,11 @@ PixelGrid UnpackXpm(const char* const* xpm)
     std::vector<Argb> colours(kCharacters * kCharacters * kCharacters);
     std::for_each(xpm + 1, firstRow, [&](const char* line) { colours[KeyNumber(line)] = ColourOf(line); });
 
-    PixelGrid grid{static_cast<int>(width), static_cast<int>(height), {}};
-    grid.pixels.reserve(width * height);
+    PixelGrid grid{static_cast<int>(width), static_cast<int>(height), std::vector<Argb>(width * height)};
+    auto pixel = grid.pixels.begin();
     for (const char* const* row = firstRow; row != firstRow + height; ++row)
         for (std::size_t x = 0; x < width; ++x)
-            grid.pixels.push_back(colours[KeyNumber(*row + kKeyLength * x)]);
+            *pixel++ = colours[KeyNumber(*row + kKeyLength * x)];
     return grid;
 }
 } // namespace render

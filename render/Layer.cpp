@@ -81,7 +81,6 @@ wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
     SwitchSmoothingOff(*m_dc);
     m_dc->SetPen(wxPen(colour, lineWidth));
     m_dc->SetBrush(*wxTRANSPARENT_BRUSH);
-    m_dc->SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
     return *m_dc;
 }
 
@@ -89,7 +88,6 @@ wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
 template <class Visit>
 void Layer::TakeMarks(Visit visit)
 {
-    m_dc.reset();
     cairo_surface_flush(m_sheet.get());
     unsigned char* row = cairo_image_surface_get_data(m_sheet.get());
     const Argb ink = OpaquePixel(m_colour.Red(), m_colour.Green(), m_colour.Blue());
@@ -128,7 +126,7 @@ bool Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
 
 wxImage Layer::TakeImage()
 {
-    wxImage image(m_side, m_side, false);
+    wxImage image(m_side, m_side);
     image.Clear(255);
     TakeMarks(
         [&](int x, int y, Argb colour)

@@ -9,7 +9,7 @@ namespace
 void DrawIfValid(wxDC& dc, const std::unique_ptr<wxBitmap>& bitmap, bool show)
 {
     if (show && bitmap && bitmap->IsOk())
-        dc.DrawBitmap(*bitmap, 0, 0, true);
+        dc.DrawBitmap(*bitmap, 0, 0);
 }
 } // namespace
 

@@ -6,11 +6,10 @@
 std::optional<geo::Pixel> MapView::VisiblePixel(double lonRad, double latRad) const
 {
     constexpr int kFarthest = 1 << 20;
-    double east = 0.0;
-    double north = 0.0;
-    if (!IsVisible(projection.Forward(east, north, lonRad, latRad)))
+    geo::MapPoint place{};
+    if (!IsVisible(projection.Forward(place.x, place.y, lonRad, latRad)))
         return std::nullopt;
-    const geo::Pixel pixel = frame.MapToPixel(east, north);
+    const geo::Pixel pixel = frame.MapToPixel(place.x, place.y);
     const auto isNear = [](int coordinate) { return coordinate >= -kFarthest && coordinate <= kFarthest; };
     return isNear(pixel.x) && isNear(pixel.y) ? std::optional(pixel) : std::nullopt;
 }

@@ -18,8 +18,8 @@ struct MapView
 {
     AzimuthalProjection projection;
     MapFrame frame;
-    std::int64_t visibleLimit = 0; ///< metres; what lies at this distance or beyond is not drawn
-    int compassTextHeight = 1;     ///< pixels
+    std::int64_t visibleLimit{}; ///< metres; what lies at this distance or beyond is not drawn
+    int compassTextHeight{};     ///< pixels
 
     /// Whether a point at this distance from the centre is drawn: not the centre itself, nothing from the limit on.
     bool IsVisible(std::int64_t distance) const { return distance >= 1 && distance < visibleLimit; }

@@ -34,14 +34,13 @@ std::optional<wxPoint> CornerPixel(const MapView& view, double lon, double lat)
     const double lonRad = lon * geo::kRadPerDeg;
     const double latRad = lat * geo::kRadPerDeg;
     const double cosine = CosineOfDistance(view.projection, lonRad, latRad);
-    double east = 0.0;
-    double north = 0.0;
-    const std::int64_t distance = view.projection.Forward(east, north, lonRad, latRad);
+    geo::MapPoint place{};
+    const std::int64_t distance = view.projection.Forward(place.x, place.y, lonRad, latRad);
     if (cosine < kAtAntipode || distance > view.visibleLimit)
         return std::nullopt;
     if (distance < 1)
         return wxPoint(view.frame.half, view.frame.half);
-    const geo::Pixel pixel = view.frame.MapToPixel(east, north);
+    const geo::Pixel pixel = view.frame.MapToPixel(place.x, place.y);
     return wxPoint(pixel.x, pixel.y);
 }
 } // namespace

@@ -41,7 +41,7 @@ public:
 
 private:
     int m_smallestStep;
-    geo::Pixel m_last{0, 0};
+    geo::Pixel m_last{};
     bool m_down = false;
 };
 } // namespace render

@@ -120,6 +120,11 @@ TEST_F(BorderLinesTest, TellMovesFromDrawsAt1000)
     EXPECT_EQ(Trace({{1000, 0, 600}, {999, 0, 900}, {0, 0, 1200}, {-1, 0, 1300}, {-32768, 0, 1400}}).size(), 4u);
 }
 
+TEST_F(BorderLinesTest, LeaveADotWhereAPointIsRepeated)
+{
+    EXPECT_EQ(Trace({{1000, 0, 600}, {0, 0, 600}, {0, 0, 600}}).size(), 2u);
+}
+
 TEST_F(BorderLinesTest, BreakWhereTheyLeaveTheDiscAndResumeInside)
 {
     settings.zoom = 2000; // 18 degrees

@@ -1,13 +1,14 @@
 #include "render/Greyline.h"
 
 #include "render/BitmapPixels.h"
-#include "tests/support/TemporaryHome.h"
+#include "tests/support/LiteralMap.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
 
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
+#include <random>
 
 namespace
 {
@@ -163,6 +164,62 @@ TEST_F(GreylineTest, HasASunOverItsSubSolarPoint)
         for (int dx = -14; dx <= 14; ++dx)
             EXPECT_TRUE(at(dx, dy) == kYellow || at(dx, dy) == 0) << dx << ", " << dy;
     EXPECT_EQ(at(8, -3), 0u);
+}
+
+TEST_F(GreylineTest, IsTheShadeOfEveryPixelUnderTheSun)
+{
+    std::mt19937 random(4);
+    const auto between = [&](double lowest, double highest)
+    { return std::uniform_real_distribution(lowest, highest)(random); };
+    for (int round = 0; round < 12; ++round)
+    {
+        settings.size = 100 + static_cast<long>(random() % 120);
+        settings.compass.show = round % 3 > 0;
+        settings.zoom = round % 2 ? 20000 : 6000;
+        settings.centreLat = between(-80, 80);
+        settings.centreLon = between(-179, 179);
+        settings.greyzone.widthDeg = static_cast<long>(random() % 30);
+        settings.greyzone.gradient = round % 4 > 0;
+        settings.greyzone.darkeningGrey = static_cast<long>(random() % 101);
+        settings.greyzone.darkeningNight = static_cast<long>(random() % 101);
+        const geo::LatLon sun{between(-23, 23), settings.centreLon + between(-60, 60)};
+        const auto overlay = Draw(sun);
+
+        const auto expected = render::NewOverlayBitmap(static_cast<int>(settings.size));
+        {
+            const geo::GreylineShade shade{{sun.lat * 0.01745329251994328, sun.lon * 0.01745329251994328},
+                                           static_cast<double>(settings.greyzone.widthDeg),
+                                           settings.greyzone.gradient,
+                                           static_cast<double>(settings.greyzone.darkeningGrey),
+                                           static_cast<double>(settings.greyzone.darkeningNight)};
+            const geo::GreylineRows rows(View().Disc(), shade);
+            const render::BitmapPixels pixels(*expected);
+            const int last = pixels.Height() - 1;
+            for (int y = 0; y <= last; ++y)
+                for (int x = 0; x <= last; ++x)
+                {
+                    const unsigned level = rows.Pixel(x, y);
+                    const bool frame = x == 0 || y == 0 || x == last || y == last;
+                    pixels.Row(y)[static_cast<std::size_t>(x)] = OverlayPixel(level, frame ? 255 : 255 - level);
+                }
+        }
+        if (const auto at = LiteralMap(settings, 1).At(sun.lat, sun.lon))
+        {
+            wxMemoryDC dc(*expected);
+            dc.GetGraphicsContext()->SetAntialiasMode(wxANTIALIAS_NONE);
+            dc.SetPen(*wxYELLOW_PEN);
+            dc.SetBrush(*wxYELLOW_BRUSH);
+            const std::array<wxPoint, 8> rays{
+                {{0, -10}, {7, -7}, {10, 0}, {7, 7}, {0, 10}, {-7, 7}, {-10, 0}, {-7, -7}}};
+            for (const wxPoint& ray : rays)
+                dc.DrawLine(*at, *at + ray);
+            dc.DrawEllipse(at->x - 4, at->y - 4, 8, 8);
+        }
+        const render::BitmapPixels got(*overlay);
+        const render::BitmapPixels wanted(*expected);
+        for (int y = 0; y < got.Height(); ++y)
+            ASSERT_TRUE(std::ranges::equal(got.Row(y), wanted.Row(y))) << "round " << round << ", row " << y;
+    }
 }
 
 TEST_F(GreylineTest, HasNoSunBeyondTheMap)

@@ -60,6 +60,19 @@ TEST(Layer, LeavesCirclesUnfilled)
     EXPECT_EQ(ColoursOf(*map)[30][30], render::kWhite);
 }
 
+TEST(Layer, BeginsWithTheStyleOfALayer)
+{
+    render::Layer layer(60, render::Inks::Many);
+    EXPECT_EQ(layer.Kind(), render::Inks::Many);
+    EXPECT_EQ(render::Layer(60).Kind(), render::Inks::One);
+    const wxDC& dc = layer.Begin(wxColour(1, 2, 3), 7);
+    EXPECT_EQ(dc.GetPen().GetColour(), wxColour(1, 2, 3));
+    EXPECT_EQ(dc.GetPen().GetWidth(), 7);
+    EXPECT_TRUE(dc.GetBrush().IsTransparent());
+    EXPECT_EQ(dc.GetBackgroundMode(), static_cast<int>(wxBRUSHSTYLE_TRANSPARENT));
+    EXPECT_EQ(render::DrawableArea(dc), wxRect(0, 0, 60, 60));
+}
+
 TEST(Layer, StartsBlankAgainForTheNextLayer)
 {
     const auto map = render::NewWhiteBitmap(40);

@@ -7,6 +7,7 @@
 #include "render/GridLines.h"
 #include "render/Hatch.h"
 #include "render/LabelBox.h"
+#include "render/Occupancy.h"
 #include "render/PlottedSquares.h"
 #include "render/Radials.h"
 #include "render/RangeCircles.h"
@@ -115,7 +116,9 @@ TEST_F(LayersTest, SquareLinesReachNoFartherThanTheirGrid)
         settings.zoom = 700;
         settings.compass.show = true;
         ExpectTheSame([&](wxDC& dc) { render::DrawGridLines(dc, View(), render::kSquareGrid); },
-                      [&](wxDC& dc) { DrawGrid(dc, Map(), {2, 84, 1}); });
+                      [&](wxDC& dc) {
+                          DrawGrid(dc, Map(), {2, 84, 1});
+                      });
     }
 }
 
@@ -159,13 +162,16 @@ TEST_F(LayersTest, CompassFiguresAreTheTensInTheirFontAndColour)
         Shuffle(200, 500);
         const NamedFont& font = AnyFont();
         const long ink = RandomSetting();
-        ExpectTheSame([&](wxDC& dc) { render::DrawCompassText(dc, View(), {true, font.setting, ink, 255}); },
-                      [&](wxDC& dc)
-                      {
-                          SetText(dc, font, ink);
-                          for (int degree = 0; degree < 360; degree += 10)
-                              DrawNumber(dc, Map(), degree, degree, Map().radius, Map().centre);
-                      });
+        ExpectTheSame(
+            [&](wxDC& dc) {
+                render::DrawCompassText(dc, View(), {true, font.setting, ink, 255});
+            },
+            [&](wxDC& dc)
+            {
+                SetText(dc, font, ink);
+                for (int degree = 0; degree < 360; degree += 10)
+                    DrawNumber(dc, Map(), degree, degree, Map().radius, Map().centre);
+            });
     }
 }
 
@@ -179,8 +185,7 @@ TEST_F(LayersTest, RangeCirclesBearTheirDistances)
         settings.rangeCircles.distanceKm = settings.zoom / Between(2, 9);
         settings.rangeCircles.legendBearingDeg = Between(-400, 400);
         settings.rangeCircles.legendShow = round % 4 > 0;
-        ExpectTheSame([&](wxDC& dc)
-                      { render::DrawRangeCircles(dc, View(), settings.rangeCircles, font.setting); },
+        ExpectTheSame([&](wxDC& dc) { render::DrawRangeCircles(dc, View(), settings.rangeCircles, font.setting); },
                       [&](wxDC& dc)
                       {
                           SetText(dc, font, settings.rangeCircles.colour);
@@ -205,18 +210,21 @@ TEST_F(LayersTest, FieldNamesStandCentredInTheirFields)
         Shuffle();
         const NamedFont& font = AnyFont();
         const long ink = RandomSetting();
-        ExpectTheSame([&](wxDC& dc) { render::DrawFieldLabels(dc, View(), {true, font.setting, ink, 255}); },
-                      [&](wxDC& dc)
-                      {
-                          SetText(dc, font, ink);
-                          for (int lon = 0; lon < 18; ++lon)
-                              for (int lat = 1; lat < 17; ++lat)
-                              {
-                                  wxString name;
-                                  name << "ABCDEFGHIJKLMNOPQR"[lon] << "ABCDEFGHIJKLMNOPQR"[lat];
-                                  DrawCentred(dc, name, Map().At(10 * lat - 85, 20 * lon - 170));
-                              }
-                      });
+        ExpectTheSame(
+            [&](wxDC& dc) {
+                render::DrawFieldLabels(dc, View(), {true, font.setting, ink, 255});
+            },
+            [&](wxDC& dc)
+            {
+                SetText(dc, font, ink);
+                for (int lon = 0; lon < 18; ++lon)
+                    for (int lat = 1; lat < 17; ++lat)
+                    {
+                        wxString name;
+                        name << "ABCDEFGHIJKLMNOPQR"[lon] << "ABCDEFGHIJKLMNOPQR"[lat];
+                        DrawCentred(dc, name, Map().At(10 * lat - 85, 20 * lon - 170));
+                    }
+            });
     }
 }
 
@@ -230,18 +238,21 @@ TEST_F(LayersTest, SquareNumbersStandCentredInTheirSquares)
         settings.centreLat = std::array{87.3, -88.1, 3.7, 51.9}[static_cast<std::size_t>(round)];
         const NamedFont& font = AnyFont();
         const long ink = RandomSetting();
-        ExpectTheSame([&](wxDC& dc) { render::DrawSquareLabels(dc, View(), {true, font.setting, ink, 255}); },
-                      [&](wxDC& dc)
-                      {
-                          SetText(dc, font, ink);
-                          for (int lon = 0; lon < 180; ++lon)
-                              for (int lat = 0; lat < 190; ++lat) // ten rows lie beyond the pole
-                              {
-                                  wxString number;
-                                  number << lon % 10 << lat % 10;
-                                  DrawCentred(dc, number, Map().At(lat - 89.5, 2 * lon - 179));
-                              }
-                      });
+        ExpectTheSame(
+            [&](wxDC& dc) {
+                render::DrawSquareLabels(dc, View(), {true, font.setting, ink, 255});
+            },
+            [&](wxDC& dc)
+            {
+                SetText(dc, font, ink);
+                for (int lon = 0; lon < 180; ++lon)
+                    for (int lat = 0; lat < 190; ++lat) // ten rows lie beyond the pole
+                    {
+                        wxString number;
+                        number << lon % 10 << lat % 10;
+                        DrawCentred(dc, number, Map().At(lat - 89.5, 2 * lon - 179));
+                    }
+            });
     }
 }
 
@@ -319,10 +330,12 @@ TEST_F(LayersTest, PlottedSquaresAreHatchedWhereTheyLie)
     }
 }
 
-/// Which pixels labels have taken, kept one by one.
+/// Which pixels of a picture labels have taken, kept one by one.
 class TakenPixels
 {
 public:
+    explicit TakenPixels(int side) : m_picture(0, 0, side, side) {}
+
     bool Take(const wxRect& box)
     {
         for (int x = box.x - 2; x <= box.x + box.width + 2; ++x)
@@ -334,13 +347,22 @@ public:
                 if (m_taken.contains({x, y}))
                     return false;
         for (int x = box.x - 2; x < box.x + box.width + 2; ++x)
-            m_taken.insert({{x, box.y - 2}, {x, box.y + box.height + 1}});
+            Mark(x, {box.y - 2, box.y + box.height + 1});
         for (int y = box.y - 2; y < box.y + box.height + 2; ++y)
-            m_taken.insert({{box.x - 2, y}, {box.x + box.width + 1, y}});
+            for (const int x : {box.x - 2, box.x + box.width + 1})
+                Mark(x, {y});
         return true;
     }
 
 private:
+    void Mark(int x, std::initializer_list<int> ys)
+    {
+        for (const int y : ys)
+            if (m_picture.Contains(x, y))
+                m_taken.insert({x, y});
+    }
+
+    wxRect m_picture;
     std::set<std::pair<int, int>> m_taken;
 };
 
@@ -382,7 +404,7 @@ TEST_F(LayersTest, TextLabelsStandBesideTheirPlaces)
                           SetText(dc, font, style.colour);
                           dc.SetPen(ColourOf(style.colour));
                           dc.SetBrush(ColourOf(style.colour));
-                          TakenPixels taken;
+                          TakenPixels taken(Map().size);
                           for (const Label& label : labels)
                           {
                               const auto place = Map().At(label.lat, label.lon);
@@ -403,6 +425,29 @@ TEST_F(LayersTest, TextLabelsStandBesideTheirPlaces)
                           }
                       });
     }
+}
+
+TEST(Occupancy, TakesWhatMeetsNothingTaken)
+{
+    std::mt19937 random(5);
+    const auto between = [&](int lowest, int highest)
+    { return std::uniform_int_distribution(lowest, highest)(random); };
+    std::array<int, 2> answers{};
+    for (int picture = 0; picture < 300; ++picture)
+    {
+        const int side = between(20, 60);
+        render::Occupancy occupancy(side);
+        TakenPixels expected(side);
+        for (int i = 0; i < 12; ++i)
+        {
+            const wxRect box(between(-20, side + 5), between(-20, side + 5), between(0, 25), between(0, 25));
+            const bool isFree = expected.Take(box);
+            ASSERT_EQ(occupancy.Take(box), isFree) << picture << ", " << i;
+            ++answers[isFree];
+        }
+    }
+    EXPECT_GT(answers[false], 500);
+    EXPECT_GT(answers[true], 500);
 }
 
 TEST_F(LayersTest, LabelsThatReachInFromOutsideAreClipped)

@@ -1,6 +1,7 @@
 #include "render/MapPicture.h"
 
 #include "tests/support/Pictures.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <gtest/gtest.h>
 
@@ -77,6 +78,55 @@ TEST(MapPicture, ShowsAnOverlayFlagWithoutABitmapAsNothing)
     picture.greylineBitmap.reset();
     picture.showGreyline = true;
     EXPECT_EQ(Composed(picture), kBlue);
+}
+
+TEST(MapPicture, ShowsABitmapThatIsNoneAsNothing)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.propagationBitmap = std::make_unique<wxBitmap>();
+    picture.showPropagation = true;
+    EXPECT_EQ(Composed(picture), kBlue);
+}
+
+TEST(MapPicture, BeginsWithNothingToShow)
+{
+    const MapPicture picture;
+    EXPECT_FALSE(picture.mapReady || picture.showGreyline || picture.showPropagation);
+}
+
+TEST(MapPicture, LiesInTheUpperLeftCornerWithItsOverlays)
+{
+    MapPicture picture = BluePictureWithOverlays();
+    picture.showPropagation = true;
+    {
+        const render::BitmapPixels pixels(*picture.propagationBitmap);
+        for (int y = 0; y < 8; ++y)
+            for (int x = 0; x < 8; ++x)
+                pixels.Row(y)[static_cast<std::size_t>(x)] =
+                    (x + y) % 3 == 0 ? 0 : render::OpaquePixel(static_cast<unsigned>(x), static_cast<unsigned>(y), 9);
+    }
+    wxBitmap composed(picture.Compose());
+    const Colours colours = ColoursOf(composed);
+    for (unsigned y = 0; y < 8; ++y)
+        for (unsigned x = 0; x < 8; ++x)
+            EXPECT_EQ(colours[y][x], (x + y) % 3 == 0 ? kBlue : render::OpaquePixel(x, y, 9)) << x << ", " << y;
+}
+
+TEST(MapPicture, OfAMapAloneNeedsNoSecondBitmap)
+{
+    MapPicture picture;
+    picture.mapBitmap = render::NewWhiteBitmap(3900); // 61 MB; an image takes 46
+    picture.mapReady = true;
+    {
+        const ScarceMemory scarce;
+        EXPECT_TRUE(picture.Compose().IsOk());
+        picture.showGreyline = true;
+        EXPECT_FALSE(picture.Compose().IsOk());
+        picture.showGreyline = false;
+    }
+    const auto* const memory =
+        reinterpret_cast<const unsigned char*>(render::BitmapPixels(*picture.mapBitmap).Row(0).data());
+    EXPECT_EQ(picture.Take().GetData(), memory);
 }
 
 TEST(MapPicture, IsTakenAsItIsShownAndGoneThen)

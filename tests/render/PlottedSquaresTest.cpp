@@ -50,6 +50,20 @@ TEST(SquareNamed, KnowsTheFirstAndTheLast)
     EXPECT_EQ(render::SquareNamed(L"RR99")->lon, 178);
 }
 
+TEST(SquareNamed, IsNoneForCharactersBesideLettersAndDigits)
+{
+    ASSERT_TRUE(render::SquareNamed(L"AAAA") == std::nullopt);
+    for (wchar_t c = 1; c < 300; ++c)
+    {
+        const bool isLetter = (c >= L'A' && c <= L'R') || (c >= L'a' && c <= L'r');
+        EXPECT_EQ(render::SquareNamed(std::wstring{c, L'A', L'0', L'0'}).has_value(), isLetter) << static_cast<int>(c);
+        EXPECT_EQ(render::SquareNamed(std::wstring{L'A', c, L'0', L'0'}).has_value(), isLetter) << static_cast<int>(c);
+        const bool isDigit = c >= L'0' && c <= L'9';
+        EXPECT_EQ(render::SquareNamed(std::wstring{L'A', L'A', c, L'0'}).has_value(), isDigit) << static_cast<int>(c);
+        EXPECT_EQ(render::SquareNamed(std::wstring{L'A', L'A', L'0', c}).has_value(), isDigit) << static_cast<int>(c);
+    }
+}
+
 TEST(SquareNamed, IsNoneForAnythingElse)
 {
     for (const wchar_t* text : {L"", L"JO6", L"JO65H", L"SO65", L"JS65", L"J065", L"JO6Z", L"5OJ6", L"JO 6", L"ЈО65",
@@ -140,6 +154,19 @@ TEST_F(PlottedSquaresTest, AreNotDrawnInPartAtTheLimit)
     EXPECT_FALSE(DrawsAnything(L"JO69"));
     settings.compass.show = false;
     EXPECT_TRUE(DrawsAnything(L"JO69"));
+}
+
+TEST_F(PlottedSquaresTest, MayHaveACornerOnTheLimitItself)
+{
+    MapView view = View();
+    double x = 0;
+    double y = 0;
+    constexpr double kRadians = 0.01745329251994328;
+    // The farthest corner of JO75 from 55.7 N 12.6 E.
+    view.visibleLimit = view.projection.Forward(x, y, 16 * kRadians, 55 * kRadians);
+    EXPECT_TRUE(render::OutlineOfSquare(view, {55, 14}));
+    --view.visibleLimit;
+    EXPECT_FALSE(render::OutlineOfSquare(view, {55, 14}));
 }
 
 TEST_F(PlottedSquaresTest, AreDrawnWithACornerAtTheCentre)
@@ -263,6 +290,27 @@ TEST_F(HatchTest, HasTheLinesOfItsName)
         EXPECT_EQ(HasLines(ink, 1, 1), c.falling);
         EXPECT_EQ(HasLines(ink, 1, 0), c.level);
         EXPECT_EQ(HasLines(ink, 0, 1), c.upright);
+    }
+}
+
+TEST_F(HatchTest, RepeatsItsPatternEveryEightPixelsOfThePicture)
+{
+    const auto isMarked = [](int stipple, int x, int y)
+    {
+        const bool rising = (x + y) % 8 == 7;
+        const bool falling = x % 8 == y % 8;
+        const bool level = y % 8 == 3;
+        const bool upright = x % 8 == 4;
+        return std::array{
+            true, rising, rising || falling, falling, level || upright, level, upright}[static_cast<std::size_t>(
+            stipple)];
+    };
+    for (int stipple = 0; stipple < 7; ++stipple)
+    {
+        const Ink ink = Fill(stipple);
+        for (int y = 50; y < 130; ++y)
+            for (int x = 50; x < 130; ++x)
+                ASSERT_EQ(ink.At(x, y), isMarked(stipple, x, y)) << stipple << ": " << x << ", " << y;
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/dcmemory.h>
+
 namespace
 {
 TEST(ColourFromSetting, TakesRedFromTheLowByte)
@@ -26,7 +28,18 @@ TEST(FontFromSetting, TakesABareFaceNameAtTheOrdinarySize)
 
 TEST(FontFromSetting, FallsBackToTheOrdinaryFont)
 {
-    EXPECT_TRUE(render::FontFromSetting("").IsOk());
-    EXPECT_TRUE(render::FontFromSetting("No such face, 12 ½").IsOk());
+    EXPECT_EQ(render::FontFromSetting(""), *wxNORMAL_FONT);
+}
+
+TEST(SetTextStyle, GivesFontAndColourOnATransparentGround)
+{
+    wxBitmap bitmap(8, 8);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackgroundMode(wxBRUSHSTYLE_SOLID);
+    render::SetTextStyle(dc, "Serif Bold 13", 0x123456);
+    EXPECT_EQ(dc.GetFont().GetPointSize(), 13);
+    EXPECT_EQ(dc.GetFont().GetWeight(), wxFONTWEIGHT_BOLD);
+    EXPECT_EQ(dc.GetTextForeground(), wxColour(0x56, 0x34, 0x12));
+    EXPECT_EQ(dc.GetBackgroundMode(), static_cast<int>(wxBRUSHSTYLE_TRANSPARENT));
 }
 } // namespace

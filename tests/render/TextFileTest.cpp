@@ -48,6 +48,23 @@ TEST(DecodeText, ReplacesWhatIsNoCharacter)
         EXPECT_FALSE((c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF || c < 0) << std::hex << static_cast<long>(c);
 }
 
+TEST(DecodeText, KeepsTheCharactersBesideThoseThatAreNone)
+{
+    const auto decoded = [](const std::vector<unsigned>& codes)
+    {
+        std::string bytes("\xFF\xFE\0\0", 4);
+        for (const unsigned code : codes)
+            for (const int shift : {0, 8, 16, 24})
+                bytes.push_back(static_cast<char>(code >> shift & 255));
+        std::vector<unsigned> characters;
+        for (const wchar_t c : render::DecodeText(bytes))
+            characters.push_back(static_cast<unsigned>(c));
+        return characters;
+    };
+    EXPECT_EQ(decoded({'J', 0xD7FF, 0xD800, 0xDFFF, 0xE000, 0x10FFFF, 0x110000, 0xFFFFFFFF, 0, 'J'}),
+              (std::vector<unsigned>{'J', 0xD7FF, 0xFFFD, 0xFFFD, 0xE000, 0x10FFFF, 0xFFFD, 0xFFFD, 0, 'J'}));
+}
+
 TEST(ForEachLine, KnowsAllLineEnds)
 {
     EXPECT_EQ(LinesOf(L"a\nb\r\nc\rd"), (Lines{L"a", L"b", L"c", L"d"}));

@@ -259,6 +259,7 @@ TEST_F(TextLabelsTest, OfAFileThatCannotBeReadGiveOneMessage)
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "Error opening file no such file.dat");
     EXPECT_EQ(dialogs.messages[0].caption, "Error");
+    EXPECT_EQ(dialogs.messages[0].style & (wxOK | wxCANCEL | wxICON_MASK), wxOK | wxICON_ERROR);
     EXPECT_FALSE(render::ReadLabelFile(home.Path("")));
     EXPECT_EQ(dialogs.messages.size(), 2u);
     EXPECT_TRUE(log.lines.empty());
