@@ -120,9 +120,6 @@ TEST(MapPicture, OfAMapAloneNeedsNoSecondBitmap)
     {
         const ScarceMemory scarce;
         EXPECT_TRUE(picture.Compose().IsOk());
-        picture.showGreyline = true;
-        EXPECT_FALSE(picture.Compose().IsOk());
-        picture.showGreyline = false;
     }
     const auto* const memory =
         reinterpret_cast<const unsigned char*>(render::BitmapPixels(*picture.mapBitmap).Row(0).data());
