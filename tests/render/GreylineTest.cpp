@@ -98,6 +98,46 @@ protected:
         EXPECT_EQ(wrong, 0);
     }
 
+    /// Compares an overlay with one made in a few lines: the level of each pixel, over them the sun by plain calls.
+    void ExpectTheLiteralDrawing(geo::LatLon sun) const
+    {
+        const auto overlay = Draw(sun);
+        const auto expected = render::NewOverlayBitmap(static_cast<int>(settings.size));
+        {
+            const geo::GreylineShade shade{{sun.lat * 0.01745329251994328, sun.lon * 0.01745329251994328},
+                                           static_cast<double>(settings.greyzone.widthDeg),
+                                           settings.greyzone.gradient,
+                                           static_cast<double>(settings.greyzone.darkeningGrey),
+                                           static_cast<double>(settings.greyzone.darkeningNight)};
+            const geo::GreylineRows rows(View().Disc(), shade);
+            const render::BitmapPixels pixels(*expected);
+            const int last = pixels.Height() - 1;
+            for (int y = 0; y <= last; ++y)
+                for (int x = 0; x <= last; ++x)
+                {
+                    const unsigned level = rows.Pixel(x, y);
+                    const bool frame = x == 0 || y == 0 || x == last || y == last;
+                    pixels.Row(y)[static_cast<std::size_t>(x)] = OverlayPixel(level, frame ? 255 : 255 - level);
+                }
+        }
+        if (const auto at = LiteralMap(settings, 1).At(sun.lat, sun.lon))
+        {
+            wxMemoryDC dc(*expected);
+            dc.GetGraphicsContext()->SetAntialiasMode(wxANTIALIAS_NONE);
+            dc.SetPen(*wxYELLOW_PEN);
+            dc.SetBrush(*wxYELLOW_BRUSH);
+            const std::array<wxPoint, 8> rays{
+                {{0, -10}, {7, -7}, {10, 0}, {7, 7}, {0, 10}, {-7, 7}, {-10, 0}, {-7, -7}}};
+            for (const wxPoint& ray : rays)
+                dc.DrawLine(*at, *at + ray);
+            dc.DrawEllipse(at->x - 4, at->y - 4, 8, 8);
+        }
+        const render::BitmapPixels got(*overlay);
+        const render::BitmapPixels wanted(*expected);
+        for (int y = 0; y < got.Height(); ++y)
+            ASSERT_TRUE(std::ranges::equal(got.Row(y), wanted.Row(y))) << "row " << y;
+    }
+
     const TemporaryHome home;
     Configuration settings{"Kavdex"};
 };
@@ -183,42 +223,8 @@ TEST_F(GreylineTest, IsTheShadeOfEveryPixelUnderTheSun)
         settings.greyzone.darkeningGrey = static_cast<long>(random() % 101);
         settings.greyzone.darkeningNight = static_cast<long>(random() % 101);
         const geo::LatLon sun{between(-23, 23), settings.centreLon + between(-60, 60)};
-        const auto overlay = Draw(sun);
-
-        const auto expected = render::NewOverlayBitmap(static_cast<int>(settings.size));
-        {
-            const geo::GreylineShade shade{{sun.lat * 0.01745329251994328, sun.lon * 0.01745329251994328},
-                                           static_cast<double>(settings.greyzone.widthDeg),
-                                           settings.greyzone.gradient,
-                                           static_cast<double>(settings.greyzone.darkeningGrey),
-                                           static_cast<double>(settings.greyzone.darkeningNight)};
-            const geo::GreylineRows rows(View().Disc(), shade);
-            const render::BitmapPixels pixels(*expected);
-            const int last = pixels.Height() - 1;
-            for (int y = 0; y <= last; ++y)
-                for (int x = 0; x <= last; ++x)
-                {
-                    const unsigned level = rows.Pixel(x, y);
-                    const bool frame = x == 0 || y == 0 || x == last || y == last;
-                    pixels.Row(y)[static_cast<std::size_t>(x)] = OverlayPixel(level, frame ? 255 : 255 - level);
-                }
-        }
-        if (const auto at = LiteralMap(settings, 1).At(sun.lat, sun.lon))
-        {
-            wxMemoryDC dc(*expected);
-            dc.GetGraphicsContext()->SetAntialiasMode(wxANTIALIAS_NONE);
-            dc.SetPen(*wxYELLOW_PEN);
-            dc.SetBrush(*wxYELLOW_BRUSH);
-            const std::array<wxPoint, 8> rays{
-                {{0, -10}, {7, -7}, {10, 0}, {7, 7}, {0, 10}, {-7, 7}, {-10, 0}, {-7, -7}}};
-            for (const wxPoint& ray : rays)
-                dc.DrawLine(*at, *at + ray);
-            dc.DrawEllipse(at->x - 4, at->y - 4, 8, 8);
-        }
-        const render::BitmapPixels got(*overlay);
-        const render::BitmapPixels wanted(*expected);
-        for (int y = 0; y < got.Height(); ++y)
-            ASSERT_TRUE(std::ranges::equal(got.Row(y), wanted.Row(y))) << "round " << round << ", row " << y;
+        SCOPED_TRACE(round);
+        ExpectTheLiteralDrawing(sun);
     }
 }
 
@@ -239,7 +245,8 @@ TEST_F(GreylineTest, TakesAnyWidthAndDarkening)
         {
             settings.greyzone.widthDeg = width;
             settings.greyzone.darkeningGrey = darkening;
-            EXPECT_TRUE(Draw(kJuneMorning)) << width << ", " << darkening;
+            SCOPED_TRACE(testing::Message() << width << ", " << darkening);
+            ExpectTheLiteralDrawing(kJuneMorning);
         }
 }
 

@@ -22,7 +22,7 @@ TEST(ColourFromSetting, LooksAtTheLow24BitsOnly)
 
 TEST(FontFromSetting, TakesABareFaceNameAtTheOrdinarySize)
 {
-    EXPECT_TRUE(render::FontFromSetting("Verdana").IsOk());
+    EXPECT_EQ(render::FontFromSetting("Verdana").GetPointSize(), wxFont("Verdana").GetPointSize());
     EXPECT_EQ(render::FontFromSetting("Verdana 17").GetPointSize(), 17);
 }
 
