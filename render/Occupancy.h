@@ -23,11 +23,6 @@ public:
     bool Take(const wxRect& box);
 
 private:
-    bool IsTaken(int x, int y) const;
-    bool MeetsTaken(int left, int top, int right, int bottom) const;
-    void Mark(const wxRect& box);
-    void MarkRun(int left, int right, int y);
-
     wxRect m_picture;
     std::vector<bool> m_taken;
 };
