@@ -23,11 +23,7 @@ std::FILE* OpenOrdinaryFile(const wxString& path)
 }
 } // namespace
 
-LineReader::LineReader(const wxString& path) : m_file(OpenOrdinaryFile(path), &std::fclose)
-{
-    if (m_file)
-        std::setvbuf(m_file.get(), nullptr, _IONBF, 0); // whole blocks are asked for
-}
+LineReader::LineReader(const wxString& path) : m_file(OpenOrdinaryFile(path), &std::fclose) {}
 
 bool LineReader::Fill()
 {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <optional>
 
 namespace propagation
 {
@@ -65,8 +66,7 @@ private:
 
 double Between(double from, double to, double fraction)
 {
-    // On a source point the neighbour does not count, not even when the difference to it is infinite.
-    return fraction == 0.0 ? from : from + fraction * (to - from);
+    return from + fraction * (to - from);
 }
 
 /// Interpolates rows of the source along x.
@@ -81,7 +81,7 @@ public:
 
     void Interpolate(int sourceRow, std::span<double> out) const
     {
-        const auto row = m_source.subspan(Size(sourceRow) * Size(m_axis.Source()), Size(m_axis.Source()));
+        const auto row = m_source.subspan(Size(sourceRow) * Size(m_axis.Source()));
         if (!m_axis.IsInterpolated())
             Pick(row, out);
         else if (m_axis.IsCubic())
@@ -102,7 +102,8 @@ private:
         for (std::size_t i = 0; i < out.size(); ++i)
         {
             const std::size_t first = Size(m_index[i]);
-            out[i] = Between(row[first], row[std::min(first + 1, row.size() - 1)], m_fraction[i]);
+            // On a source point its neighbour does not count: it may be infinite, or there may be none.
+            out[i] = m_fraction[i] == 0.0 ? row[first] : Between(row[first], row[first + 1], m_fraction[i]);
         }
     }
 
@@ -112,7 +113,7 @@ private:
         for (std::size_t i = 0; i < out.size(); ++i)
         {
             const CubicWeights weights = CubicWeightsAt(m_fraction[i]);
-            const auto points = row.subspan(Size(m_index[i] - 1), 4);
+            const auto points = row.subspan(Size(m_index[i] - 1));
             out[i] = weights[0] * points[0] + weights[1] * points[1] + weights[2] * points[2] + weights[3] * points[3];
         }
     }
@@ -140,9 +141,10 @@ void InterpolateLinearly(const RowInterpolator& rows, const Axis& x, const Axis&
                          std::span<const int> index, std::span<double> work)
 {
     const auto fraction = work.first(Size(y.Target()));
-    std::array<std::span<double>, 2> buffers{work.subspan(fraction.size(), Size(x.Target())),
-                                             work.subspan(fraction.size() + Size(x.Target()), Size(x.Target()))};
-    std::array<int, 2> held{-1, -1}; // even source rows stand in the first buffer, odd ones in the second
+    // Even source rows stand in the first buffer, odd ones in the second.
+    const std::array buffers{work.subspan(fraction.size(), Size(x.Target())),
+                             work.subspan(fraction.size() + Size(x.Target()), Size(x.Target()))};
+    std::array<std::optional<int>, buffers.size()> held;
     const auto sourceRow = [&](int row)
     {
         const std::size_t buffer = Size(row % 2);
@@ -154,8 +156,13 @@ void InterpolateLinearly(const RowInterpolator& rows, const Axis& x, const Axis&
     for (std::size_t j = 0; j < Size(y.Target()); ++j)
     {
         const auto from = sourceRow(index[j]);
-        const auto to = sourceRow(std::min(index[j] + 1, y.Source() - 1));
         const auto out = TargetRow(target, Size(x.Target()), j);
+        if (fraction[j] == 0.0)
+        {
+            std::ranges::copy(from, out.begin());
+            continue;
+        }
+        const auto to = sourceRow(index[j] + 1);
         for (std::size_t i = 0; i < out.size(); ++i)
             out[i] = Between(from[i], to[i], fraction[j]);
     }
@@ -222,11 +229,10 @@ int Regrid(int nx, int ny, std::span<const double> source, int mx, int my, std::
         return error;
     const auto fractionX = work.first(x.IsInterpolated() ? Size(mx) : 0);
     const auto workY = work.subspan(fractionX.size());
-    const auto indexX = indexWork.first(Size(mx));
-    const auto indexY = indexWork.subspan(Size(mx), Size(my));
-    x.FindIntervals(indexX, fractionX);
+    const auto indexY = indexWork.subspan(Size(mx));
+    x.FindIntervals(indexWork, fractionX);
     y.FindIntervals(indexY, workY);
-    const RowInterpolator rows(x, source, indexX, fractionX);
+    const RowInterpolator rows(x, source, indexWork, fractionX);
     if (!y.IsInterpolated())
         PickRows(rows, x, y, target, indexY);
     else if (y.IsCubic())

@@ -9,6 +9,7 @@ namespace propagation
 namespace
 {
 constexpr int kFewestPoints = 18;
+constexpr std::size_t kLongestField = 6;
 
 /// Where a field stands in each line.
 struct Field
@@ -19,7 +20,7 @@ struct Field
 
 Field FieldOf(Parameter parameter)
 {
-    static constexpr std::array<Field, 4> kFields{{{74, 6}, {86, 6}, {26, 6}, {99, 5}}};
+    static constexpr std::array kFields{Field{74, 6}, Field{86, 6}, Field{26, 6}, Field{99, 5}};
     return kFields[static_cast<std::size_t>(parameter)];
 }
 
@@ -29,8 +30,7 @@ class FieldText
 public:
     FieldText(std::string_view line, Field field)
     {
-        if (line.size() > field.start)
-            line.substr(field.start, field.length).copy(m_text.data(), m_text.size() - 1);
+        line.copy(m_text.data(), field.length, std::min(field.start, line.size()));
     }
 
     /// As the toolkit converts texts to numbers: what is too large or too small is no number.
@@ -44,7 +44,7 @@ public:
     int Integer() const { return static_cast<int>(std::strtol(m_text.data(), nullptr, 10)); }
 
 private:
-    std::array<char, 8> m_text{};
+    std::array<char, kLongestField + 1> m_text{};
 };
 
 int ReadPoints(LineReader& file)
@@ -71,7 +71,8 @@ void ReadValues(LineReader& file, Field field, ResultGrid& grid)
 
 Parameter ParameterOf(int setting)
 {
-    return setting >= 0 && setting <= 3 ? static_cast<Parameter>(setting) : Parameter::Sdbw;
+    const auto index = static_cast<unsigned>(setting); // what is negative becomes large
+    return index <= static_cast<unsigned>(Parameter::Rel) ? static_cast<Parameter>(index) : Parameter::Sdbw;
 }
 
 std::optional<ResultGrid> ReadResult(LineReader& file, Parameter parameter)

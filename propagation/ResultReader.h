@@ -21,7 +21,7 @@ Parameter ParameterOf(int setting);
 /// One parameter over the whole world.
 struct ResultGrid
 {
-    int points = 0;             ///< along each side
+    int points{};               ///< along each side
     std::vector<double> values; ///< from the south-west corner, longitude running fastest; both edges included
     double minimum = 999.0;     ///< of the values that were read
     double maximum = -999.0;

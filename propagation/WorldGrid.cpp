@@ -9,7 +9,7 @@ namespace propagation
 std::vector<double> WorldValues(const ResultGrid& result)
 {
     std::vector<double> values(std::size_t{kWorldColumns} * kWorldRows);
-    std::vector<double> work(4 * kWorldColumns + 1);
+    std::vector<double> work(3 * kWorldColumns + kWorldRows);
     std::vector<int> indexWork(kWorldColumns + kWorldRows);
     Regrid(result.points, result.points, result.values, kWorldColumns, kWorldRows, values, kLinear, kLinear, work,
            indexWork);

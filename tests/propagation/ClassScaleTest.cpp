@@ -142,4 +142,34 @@ TEST_F(ClassScaleTest, PutsAConstantGridIntoTheLowestAutomaticClass)
         EXPECT_EQ(threshold, -120.3);
     EXPECT_EQ(ClassOf(-120.3, scale.thresholds), 0u);
 }
+
+TEST_F(ClassScaleTest, CountsUpFromTheMinimumEvenWhereNoValueWasRead)
+{
+    propagation.autoLevel = 1;
+    const ClassScale scale = Scale(Range(999, -999));
+    for (std::size_t k = 0; k < 10; ++k)
+        EXPECT_NEAR(scale.thresholds[k], 999 + 199.8 * static_cast<double>(k + 1), 1e-9) << k;
+}
+
+TEST_F(ClassScaleTest, SetsItsOwnLevelsUnlessAutomaticOnesAreAskedFor)
+{
+    for (const long other : {0L, 2L, -1L})
+    {
+        propagation.autoLevel = other;
+        EXPECT_EQ(Scale(Range(-200, -100)).thresholds, Scale().thresholds) << other;
+        EXPECT_EQ(Scale(Range(-200, -100)).thresholds[9], -93);
+    }
+}
+
+TEST(ClassOf, IsTheHighestThresholdBelowTheValue)
+{
+    std::array<double, 10> thresholds;
+    for (std::size_t k = 0; k < 10; ++k)
+        thresholds[k] = static_cast<double>(k);
+    for (std::uint32_t k = 0; k < 10; ++k)
+    {
+        EXPECT_EQ(ClassOf(k + 0.5, thresholds), k);
+        EXPECT_EQ(ClassOf(k, thresholds), k == 0 ? 0 : k - 1);
+    }
+}
 } // namespace

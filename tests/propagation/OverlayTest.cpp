@@ -3,6 +3,7 @@
 #include "geo/RowSampler.h"
 #include "propagation/WorldGrid.h"
 #include "render/BitmapPixels.h"
+#include "tests/propagation/PlaceAt.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -27,12 +28,6 @@ Pixels PixelsOf(wxBitmap& bitmap)
         copy.emplace_back(pixels.Row(y).begin(), pixels.Row(y).end());
     return copy;
 }
-
-struct Position
-{
-    double lon;
-    double lat;
-};
 
 class OverlayTest : public testing::Test
 {
@@ -143,21 +138,6 @@ TEST_F(OverlayTest, ComesOutTheSameWhereBitmapsCantBeReachedInPlace)
     const Pixels detour = Draw();
     render::BitmapPixels::mayReachInPlace = true;
     EXPECT_TRUE(Same(detour, direct));
-}
-
-/// The place under a pixel by rotating unit vectors: another way than the program's.
-Position PlaceAt(const MapView& view, double east, double north)
-{
-    constexpr double kRad = std::numbers::pi / 180;
-    const double range = std::hypot(east, north);
-    const double z = range / 6370997.0;
-    const double lat0 = view.projection.centreLatDeg * kRad;
-    const double n = std::sin(z) * north / range;
-    const double e = std::sin(z) * east / range;
-    const double outward = std::cos(z) * std::cos(lat0) - n * std::sin(lat0);
-    const double up = std::cos(z) * std::sin(lat0) + n * std::cos(lat0);
-    return {std::remainder(view.projection.centreLonDeg + std::atan2(e, outward) / kRad, 360.0),
-            std::atan2(up, std::hypot(outward, e)) / kRad};
 }
 
 TEST_F(OverlayTest, ShowsTheClassOfThePlaceUnderEachPixel)
