@@ -5,7 +5,8 @@
 
 copies the tree, builds it, and for each fault builds and runs the tests of the room, then all the others. A fault is
 "noticed" when a test fails, crashes or hangs, and does so again when it is repeated; it SURVIVED when all tests pass.
-Faults that do not compile are drawn again. The copy is kept, so that another run starts quickly.
+Faults that do not compile, or that leave the compiled program as it was (the name of a parameter in a declaration, say),
+are drawn again. The copy is kept, so that another run starts quickly.
 """
 
 import argparse
@@ -154,6 +155,9 @@ class Tree:
         return subprocess.run(["cmake", "--build", self.build, *options], stdout=subprocess.DEVNULL,
                               stderr=subprocess.DEVNULL, timeout=1800).returncode == 0
 
+    def program(self):
+        return (self.build / "bin" / "kavmap").read_bytes()
+
     def ctest(self, *options):
         done = subprocess.run(["ctest", "--test-dir", self.build, "-j2", "--stop-on-failure", "--timeout", "60", *options],
                               stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace")
@@ -211,6 +215,7 @@ def main():
     tree = Tree(place, options.room)
     if not tree.compiles("all") or tree.notices():
         sys.exit(f"The tests do not pass as they are: {tree.noticed_by or 'they do not build'}")
+    unchanged = tree.program()
     noticed = planted = 0
     planter = Planter(place, options.room, rng)
     while planted < options.count and time.monotonic() < end_time:
@@ -218,6 +223,8 @@ def main():
         try:
             file.write_text(text[:start] + new + text[end:])
             if not tree.compiles(f"kav_{options.room}") or not tree.compiles("kavmap"):
+                continue
+            if tree.program() == unchanged:
                 continue
             found = tree.notices()
         finally:
