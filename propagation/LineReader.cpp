@@ -17,7 +17,7 @@ std::FILE* OpenOrdinaryFile(const wxString& path)
         return nullptr;
     struct stat state;
     if (fstat(file, &state) == 0 && S_ISREG(state.st_mode))
-        return fdopen(file, "rb");
+        return fdopen(file, "r");
     close(file);
     return nullptr;
 }

@@ -43,7 +43,7 @@ TEST(LineReader, ReadsTheBeginningsOfTheLinesOfAnyText)
 {
     const TemporaryHome home;
     std::mt19937 random(3);
-    for (int i = 0; i < 60; ++i)
+    for (int i = 0; i < 25; ++i)
     {
         std::string text;
         while (text.size() < 150000 && (text.empty() || random() % 200 != 0))

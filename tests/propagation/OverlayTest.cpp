@@ -122,10 +122,10 @@ TEST_F(OverlayTest, IsWhatTheToolkitMakesOfAnImageWithOpacity)
         }
 }
 
-TEST_F(OverlayTest, HasTheSamePixelsAtAnyOpacity)
+TEST_F(OverlayTest, HasTheSamePixelsAtOtherOpacities)
 {
     settings.size = 100;
-    for (unsigned alpha = 0; alpha < 256; ++alpha)
+    for (unsigned alpha = 0; alpha < 256; alpha += 15)
         ASSERT_TRUE(Same(Draw(static_cast<std::uint8_t>(alpha)),
                          PlainOverlay(View(), values, Scale(), static_cast<unsigned char>(alpha))))
             << alpha;
