@@ -418,12 +418,17 @@ TEST_F(PropagationTest, LetsTheWindowRepaintButTakesNoCommandsMeanwhile)
     frame.Show();
     wxTheApp->Yield();
     paints = 0;
-    Watch watch(frame, [&] { frame.Refresh(); });
-    EXPECT_THAT(Draw("slow"), IsEmpty());
+    Watch watch(frame,
+                [&]
+                {
+                    frame.Refresh();
+                    if (watch.ticks >= 4 && paints >= 2)
+                        home.Write("voacap/go on", "");
+                });
+    EXPECT_THAT(Draw("waits"), IsEmpty());
     watch.Stop();
-    EXPECT_GE(watch.ticks, 4);
+    EXPECT_TRUE(Exists("voacap/go on"));
     EXPECT_EQ(watch.ticksWithWindowEnabled, 0);
-    EXPECT_GE(paints, 2);
     EXPECT_TRUE(frame.IsEnabled());
 }
 
@@ -436,10 +441,12 @@ TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)
                 {
                     busy += Propagation::IsBusy();
                     const Propagation second(picture, view, settings, [](const wxString&) { ADD_FAILURE(); });
+                    if (busy >= 4)
+                        home.Write("voacap/go on", "");
                 });
-    EXPECT_THAT(Draw("slow"), IsEmpty());
+    EXPECT_THAT(Draw("waits"), IsEmpty());
     watch.Stop();
-    EXPECT_GE(busy, 4);
+    EXPECT_TRUE(Exists("voacap/go on"));
     EXPECT_EQ(Runs(), 1);
     EXPECT_TRUE(picture.showPropagation);
 }

@@ -44,6 +44,13 @@ const std::vector<const char*> kInputLines{
     "Rec Ants :\\[[^\\\\]{8}\\\\[^\\\\]{12}\\]  gain=   \\d\\.\\d   \\d{1,2}\\.\\d",
     "Tx Ants  :\\[[^\\\\]{8}\\\\[^\\\\]{12}\\]  \\d\\.\\d{3} \\d{1,3}\\.\\d  \\d\\.\\d{3}"};
 
+/// Waits until the test has seen enough.
+void WaitFor(const fs::path& file)
+{
+    for (int i = 0; i < 6000 && !fs::exists(file); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+}
+
 [[noreturn]] void Fail(int status, const std::string& what)
 {
     std::cerr << "voacapl: " << what << '\n';
@@ -133,6 +140,8 @@ int main(int argc, char** argv)
             continue;
     if (behaviour == "slow")
         std::this_thread::sleep_for(std::chrono::milliseconds(600));
+    if (behaviour == "waits")
+        WaitFor(directory / "go on");
     if (behaviour != "no result")
         WriteResult(area / "kavdex.vg1", points);
     return behaviour == "fails" ? 1 : 0;
