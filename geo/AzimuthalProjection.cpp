@@ -25,15 +25,14 @@ double AdjustLon(double angle)
 {
     for (int round = 0; round < 5 && !(std::fabs(angle) <= geo::kPi); ++round)
     {
-        const double turn = angle < 0.0 ? -kTwoPi : kTwoPi;
         if (std::trunc(std::fabs(angle / geo::kPi)) < 2)
-            angle -= turn;
+            angle -= std::copysign(kTwoPi, angle);
         else if (std::trunc(std::fabs(angle / kTwoPi)) < kMaxInt)
             angle -= std::trunc(angle / kTwoPi) * kTwoPi;
         else if (std::trunc(std::fabs(angle / (kTwoPi * kMaxInt))) < kMaxInt)
             angle -= std::trunc(angle / kTwoPiMaxInt) * kTwoPiMaxInt;
         else if (std::trunc(std::fabs(angle / kTwoPiMaxIntSquared)) > kMaxInt - 1)
-            angle -= turn;
+            return angle; // a turn is less than its rounding
         else
             angle -= std::trunc(angle / kTwoPiMaxIntSquared) * kTwoPiMaxIntSquared;
     }

@@ -55,10 +55,10 @@ GreyBands GreylineShade::Bands() const
     bands.day = kDay;
     bands.night = LevelOf(nightPercent * kLevelsPerPercent);
     bands.gradient = gradient && Slope() > 0.0;
-    bands.flat = gradient ? bands.night : LevelOf(greyPercent * kLevelsPerPercent);
+    bands.flat = LevelOf(greyPercent * kLevelsPerPercent);
     bands.levelAtHorizon = Slope() * 0.5 * widthDeg + nightPercent * kLevelsPerPercent;
     bands.levelPerRadian = Slope() * kDegPerRad;
-    bands.radiansPerLevel = bands.gradient ? 1.0 / bands.levelPerRadian : 0.0;
+    bands.radiansPerLevel = 1.0 / bands.levelPerRadian;
     return bands;
 }
 

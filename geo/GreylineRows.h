@@ -48,6 +48,9 @@ public:
     /// A whole row; out has room for the map's size.
     void Row(int row, std::span<std::uint8_t> out) const;
 
+    /// Whether every pixel is computed by the plain arithmetic, which takes many times as long.
+    bool GoesThePlainWay() const { return !m_kernels; }
+
 private:
     MapDisc m_disc;
     GreylineShade m_shade;

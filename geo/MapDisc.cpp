@@ -3,8 +3,8 @@
 #include "geo/Angles.h"
 #include "geo/Truncate.h"
 
-#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace
 {
@@ -38,17 +38,14 @@ bool MapDisc::Covers(double x, double y) const
 
 int MapDisc::Reach(int row) const
 {
-    const double scale = frame.metresPerPixel;
     const double y = frame.PixelToMap(frame.half, row).y;
-    const double radius = std::min(static_cast<double>(limitMetres), AzimuthalProjection::kAntipodeDistance);
-    if (radius <= 1.0 || std::fabs(y) > radius)
-        return 0;
-    // An estimate, put right by the test itself.
-    int reach = std::min(frame.half, TruncateToInt32(std::sqrt(radius * radius - y * y) / scale));
-    while (reach < frame.half && Covers((reach + 1) * scale, y))
-        ++reach;
-    while (reach > 0 && !Covers(reach * scale, y))
-        --reach;
+    int reach = 0;
+    int beyond = frame.half + 1;
+    while (beyond - reach > 1)
+    {
+        const int middle = std::midpoint(reach, beyond);
+        (Covers(middle * frame.metresPerPixel, y) ? reach : beyond) = middle;
+    }
     return reach;
 }
 

@@ -10,8 +10,6 @@ namespace geo
 {
 RangeAndBearing RangeAndBearingOf(MapPoint point)
 {
-    if (point.x == 0.0 && point.y == 0.0)
-        return {0.0, 0.0};
     const double bearing = std::atan2(point.x, point.y) * kDegPerRad;
     return {std::sqrt(point.x * point.x + point.y * point.y) / 1000.0, bearing < 0.0 ? bearing + 360.0 : bearing};
 }

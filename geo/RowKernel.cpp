@@ -71,9 +71,9 @@ struct alignas(64) Block
         const auto westColumn = static_cast<std::int32_t>(west);
         const double eastMargin = rowmath::FromWhole(east, eastColumn);
         const double westMargin = rowmath::FromWhole(west, westColumn);
-        const double sideways = (eastMargin < westMargin ? eastMargin : westMargin) * grid.radiansPerColumn;
+        const double sideways = std::min(eastMargin, westMargin) * grid.radiansPerColumn;
         const double upright = rowmath::FromWhole(down, gridRow) * grid.radiansPerRow;
-        const bool sure = rowmath::IsSure(sideways < upright ? sideways : upright, latitude.q);
+        const bool sure = rowmath::IsSure(std::min(sideways, upright), latitude.q);
         const std::int32_t before = gridRow * grid.stride;
         columns.east[i] = sure ? before + eastColumn : kAskPlain;
         columns.west[i] = sure ? before + westColumn : kAskPlain;
@@ -99,7 +99,7 @@ template <bool kGradient>
     level = sure ? level : kAskPlain;
     level = intoDay > 0.0 ? bands.day : level;
     level = intoNight > 0.0 ? bands.night : level;
-    const double edge = std::fabs(intoDay) < std::fabs(intoNight) ? std::fabs(intoDay) : std::fabs(intoNight);
+    const double edge = std::min(std::fabs(intoDay), std::fabs(intoNight));
     return edge > rowmath::kGuard ? level : kAskPlain;
 }
 
@@ -155,7 +155,7 @@ namespace geo
 const RowKernels* KernelsFor(InstructionSet set)
 {
     static const InstructionSet best = BestInstructionSet();
-    switch (set < best ? set : best)
+    switch (std::min(set, best))
     {
     case InstructionSet::Plain:
         return nullptr;

@@ -3,6 +3,7 @@
 #include "geo/Angles.h"
 #include "geo/RowPlane.h"
 
+#include <algorithm>
 #include <cmath>
 
 /**
@@ -16,11 +17,11 @@
  * The guard. Write q = sqrt(1 - |sin(latitude)|), which is between cos(latitude) / sqrt(2) and cos(latitude). An error
  * of the unit vector of a place moves its latitude and its longitude by at most that error / cos(latitude), so both
  * errors are bounded after multiplication by q:
- * - these polynomials: kKernelError, mostly the cosine (1.14e-10), the arc cosine (1.9e-10) and the arc tangent
+ * - these polynomials: 4e-10, mostly the cosine (1.14e-10), the arc cosine (1.9e-10) and the arc tangent
  *   (1.4e-10);
  * - the plain arithmetic's own rounding: a few 1e-16 as a rule, but its longitude divides the rounding of
  *   cos z - sin(lat0) sin(lat) by cos(lat0), which is as small as 1e-6 before the rule for polar centres takes over:
- *   kPlainError;
+ *   1e-9;
  * - the arithmetic of columns and levels, some 1e-15.
  * kGuard is more than six times their sum. The cosine of the sun's distance has the unit vector's error alone, so it is
  * compared with the edges of the greyzone under the same guard, without q; for the sun's height the zenith is the pole.
@@ -32,10 +33,8 @@
  */
 namespace geo::rowmath
 {
-inline constexpr double kKernelError = 4e-10; ///< radians times q
-inline constexpr double kPlainError = 1e-9;   ///< radians times q
-inline constexpr double kGuard = 1e-8;        ///< radians times q
-inline constexpr double kPoleCap = 1e-4;      ///< smallest q that is trusted
+inline constexpr double kGuard = 1e-8;   ///< radians times q
+inline constexpr double kPoleCap = 1e-4; ///< smallest q that is trusted
 
 [[gnu::always_inline]] inline double Polynomial(double, double last)
 {
@@ -77,8 +76,8 @@ template <class... Coefficients>
     constexpr double kTanEighth = 0.41421356237309503; // tan(pi / 8)
     constexpr double kNotZero = 1e-300;
     const double width = std::fabs(x);
-    const double longer = (width > y ? width : y) + kNotZero;
-    const double shorter = width > y ? y : width;
+    const double longer = std::max(width, y) + kNotZero;
+    const double shorter = std::min(width, y);
     const bool turned = shorter > kTanEighth * longer; // by an eighth of a turn, to stay within tan(pi / 8)
     const double u = (turned ? shorter - longer : shorter) / (turned ? shorter + longer : longer);
     const double small = u * Polynomial(u * u, 0.9999999969616731, -0.3333327730448356, 0.19997197753028884,
@@ -114,7 +113,7 @@ struct FromPole
 {
     constexpr double kPerRadian = kPoleCap / kGuard;
     const double scaled = margin * q * kPerRadian;
-    return (scaled < q ? scaled : q) > kPoleCap;
+    return std::min(scaled, q) > kPoleCap;
 }
 
 /// The unit vector of a place: x to the station's meridian, y eastward, z to the North Pole.

@@ -9,16 +9,19 @@
 
 namespace geo
 {
+WorldCells::WorldCells(const std::uint32_t* pixels, int width, int height, std::uint32_t outside)
+    : m_pixels(pixels),
+      m_width(width),
+      m_height(height),
+      m_xScale(width / 360.0),
+      m_yScale(height / 180.0),
+      m_outside(outside)
+{
+}
+
 WorldCells WorldCells::Filling(const std::uint32_t* pixels, int width, int height, std::uint32_t outside)
 {
-    WorldCells picture;
-    picture.m_pixels = pixels;
-    picture.m_width = width;
-    picture.m_height = height;
-    picture.m_xScale = width / 360.0;
-    picture.m_yScale = height / 180.0;
-    picture.m_outside = outside;
-    return picture;
+    return {pixels, width, height, outside};
 }
 
 WorldCells WorldCells::Lattice(const std::uint32_t* pixels, int perDegree)

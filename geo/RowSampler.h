@@ -40,14 +40,14 @@ public:
     const std::uint32_t* Pixels() const { return m_pixels; }
 
 private:
-    WorldCells() = default;
+    WorldCells(const std::uint32_t* pixels, int width, int height, std::uint32_t outside);
 
-    const std::uint32_t* m_pixels = nullptr;
-    int m_width = 0;
-    int m_height = 0;
-    double m_xScale = 0.0; ///< columns a degree
-    double m_yScale = 0.0; ///< rows a degree
-    std::uint32_t m_outside = 0;
+    const std::uint32_t* m_pixels;
+    int m_width;
+    int m_height;
+    double m_xScale; ///< columns a degree
+    double m_yScale; ///< rows a degree
+    std::uint32_t m_outside;
 };
 
 /**
@@ -70,6 +70,9 @@ public:
 
     /// A whole row; out has room for the map's size.
     void Row(int row, std::span<std::uint32_t> out) const;
+
+    /// Whether every pixel is computed by the plain arithmetic, which takes many times as long.
+    bool GoesThePlainWay() const { return !m_kernels; }
 
 private:
     MapDisc m_disc;

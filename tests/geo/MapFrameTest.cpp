@@ -13,6 +13,17 @@ TEST(MapFrame, HasAWholeNumberOfMetresAPixel)
     EXPECT_EQ(frame.half, 450);
 }
 
+TEST(MapFrame, DividesTheRadiusByTheWholePixelsBetweenTheMargins)
+{
+    EXPECT_EQ(MapFrame(901, 20000000, 7).metresPerPixel, 45146.0); // 443 pixels
+    EXPECT_EQ(MapFrame(900, 20000000, 448).metresPerPixel, 10000000.0);
+    EXPECT_EQ(MapFrame(900, 20000000, 449).metresPerPixel, 20000000.0);
+    const MapFrame frame(901, 12345678, 7);
+    EXPECT_EQ(frame.mapSize, 901);
+    EXPECT_EQ(frame.mapRadius, 12345678);
+    EXPECT_EQ(frame.mapMargin, 7);
+}
+
 TEST(MapFrame, LeavesADiscOfOnePixelWhenTheMarginTakesAll)
 {
     EXPECT_EQ(MapFrame(100, 20000000, 50).metresPerPixel, 20000000.0);
@@ -57,6 +68,13 @@ TEST(RangeAndBearing, AreZeroAtTheCentre)
 {
     EXPECT_EQ(geo::RangeAndBearingOf({0.0, 0.0}).distanceKm, 0.0);
     EXPECT_EQ(geo::RangeAndBearingOf({0.0, 0.0}).bearingDeg, 0.0);
+}
+
+TEST(RangeAndBearing, BeginAtNorthOnBothSides)
+{
+    EXPECT_NEAR(geo::RangeAndBearingOf({1.0, 1e6}).bearingDeg, 5.7295779513e-5, 1e-12);
+    EXPECT_NEAR(geo::RangeAndBearingOf({-1.0, 1e6}).bearingDeg, 360.0 - 5.7295779513e-5, 1e-10);
+    EXPECT_NEAR(geo::RangeAndBearingOf({5e5, 5e5}).bearingDeg, 45.0, 1e-8);
 }
 
 TEST(RangeAndBearing, RunClockwiseFromNorth)

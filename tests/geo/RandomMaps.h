@@ -4,6 +4,8 @@
 #include "geo/InstructionSet.h"
 #include "geo/MapDisc.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +13,7 @@
 #include <limits>
 #include <ostream>
 #include <random>
+#include <span>
 #include <vector>
 
 /// Maps at random, the awkward ones far more often than chance would have them.
@@ -103,4 +106,21 @@ int FirstDifference(const std::vector<Pixel>& row, const std::vector<Pixel>& oth
 {
     const auto [at, otherAt] = std::mismatch(row.begin(), row.end(), other.begin(), other.end());
     return at == row.end() && otherAt == other.end() ? -1 : static_cast<int>(at - row.begin());
+}
+
+/// The row that a painter paints into its span, which must leave what lies beside it as it is.
+template <class Pixel, class Paint>
+std::vector<Pixel> PaintedRow(const geo::MapDisc& disc, Paint paint)
+{
+    constexpr std::size_t kRoom = 4;
+    constexpr Pixel kUntouched{77};
+    const auto size = static_cast<std::size_t>(disc.frame.mapSize);
+    std::vector<Pixel> pixels(size + 2 * kRoom, kUntouched);
+    paint(std::span(pixels).subspan(kRoom, size));
+    for (std::size_t i = 0; i < kRoom; ++i)
+    {
+        EXPECT_EQ(pixels[i], kUntouched) << disc;
+        EXPECT_EQ(pixels[size + kRoom + i], kUntouched) << disc;
+    }
+    return {pixels.begin() + kRoom, pixels.end() - kRoom};
 }

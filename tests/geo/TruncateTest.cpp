@@ -10,6 +10,10 @@ constexpr auto kMin32 = std::numeric_limits<std::int32_t>::min();
 constexpr auto kMax32 = std::numeric_limits<std::int32_t>::max();
 constexpr auto kMin64 = std::numeric_limits<std::int64_t>::min();
 
+// A compiler refuses here what is undefined, even where the hardware happens to give the right thing.
+static_assert(geo::TruncateToInt32(2147483648.0) == kMin32);
+static_assert(geo::TruncateToInt64(9223372036854775808.0) == kMin64);
+
 TEST(Truncate, GoesTowardZeroOnBothSides)
 {
     EXPECT_EQ(geo::TruncateToInt32(2.9), 2);
