@@ -115,9 +115,10 @@ def hide(text):
 
 
 class Planter:
-    def __init__(self, tree, room, rng):
+    def __init__(self, tree, options, rng):
         self.rng = rng
-        self.files = sorted(p for p in (tree / room).rglob("*") if p.suffix in (".cpp", ".h"))
+        self.files = sorted(p for p in (tree / options.room).rglob("*")
+                            if p.suffix in (".cpp", ".h") and re.search(options.only, p.name))
 
     def draw(self):
         """A kind, a file, a line and the file's text with the fault."""
@@ -199,6 +200,7 @@ def with_display():
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--room", choices=ROOMS, required=True)
+    parser.add_argument("--only", default="", metavar="REGEX", help="plant in files with such a name")
     parser.add_argument("--count", type=int, default=20, help="faults to plant")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--minutes", type=float, default=60, help="plant no more after this time")
@@ -208,7 +210,7 @@ def main():
     rng = random.Random(options.seed)
 
     if options.list:
-        for kind, file, text, start, end, new in (Planter(ROOT, options.room, rng).draw() for _ in range(options.count)):
+        for kind, file, text, start, end, new in (Planter(ROOT, options, rng).draw() for _ in range(options.count)):
             print(describe(ROOT, kind, file, text, start, end, new))
         return
     with_display()
@@ -220,7 +222,7 @@ def main():
         sys.exit(f"The tests do not pass as they are: {tree.noticed_by or 'they do not build'}")
     unchanged = tree.program()
     noticed = planted = 0
-    planter = Planter(place, options.room, rng)
+    planter = Planter(place, options, rng)
     while planted < options.count and time.monotonic() < end_time:
         kind, file, text, start, end, new = planter.draw()
         try:
