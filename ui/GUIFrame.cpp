@@ -97,7 +97,6 @@ void GUIFrame::CreateMenus()
 void GUIFrame::CreateTools()
 {
     m_toolBar = CreateToolBar(wxTB_HORIZONTAL, ui::kIdToolBar);
-    m_toolBar->SetToolBitmapSize(wxSize(16, 15));
     m_locator = new wxTextCtrl(m_toolBar, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_RIGHT);
     // A little wider than a locator: all tools must fit beside it.
     m_locator->SetInitialSize(m_locator->GetSizeFromText("JO65HQ0"));

@@ -13,16 +13,15 @@ MapCanvas::MapCanvas(wxWindow* parent, wxWindowID id, const wxPoint& position, c
 
 void MapCanvas::ShowPicture()
 {
-    Refresh(true, nullptr);
+    Refresh();
     Update();
 }
 
 void MapCanvas::OnPaint(wxPaintEvent&)
 {
     wxAutoBufferedPaintDC dc(this);
-    dc.SetPen(*wxWHITE_PEN);
-    dc.SetBrush(*wxWHITE_BRUSH);
-    dc.DrawRectangle(GetClientSize());
+    dc.SetBackground(*wxWHITE_BRUSH);
+    dc.Clear();
     DoPrepareDC(dc);
     Draw(dc);
 }

@@ -68,7 +68,7 @@ void WxKavFrame::TakeCentreFromLocatorField()
     stored = m_locator->GetValue().Upper();
     Configuration::LocatorToLatLon(m_settings->centreLat, m_settings->centreLon, stored);
     if (stored.length() != 6)
-        stored = "AA11RR";
+        stored = kScratchLocator;
     Configuration::LatLonToLocator(stored, m_settings->centreLat, m_settings->centreLon);
     m_locator->ChangeValue(stored);
 }
@@ -92,9 +92,8 @@ void WxKavFrame::EnableCreationTools(bool enable)
 
 bool WxKavFrame::NewMap()
 {
-    const CompassSettings& compass = m_settings->compass;
     m_canvas->Clear();
-    m_view = render::MakeMapView(*m_settings, compass.text.show ? MeasureCompassText(compass.text.font) : 1);
+    m_view = render::MakeMapView(*m_settings, MeasureCompassText(m_settings->compass.text.font));
     m_canvas->mapBitmap = render::NewWhiteBitmap(m_view->frame.mapSize);
     if (!m_canvas->mapBitmap)
     {
@@ -119,27 +118,27 @@ bool WxKavFrame::DrawBaseMaps()
             ShowError(wxString::Format("Error creating bitmap in function OnCreateMap%zu", i + 1));
             return false;
         }
-        ReprojectBaseMap(render::WorldPicture(image), *m_canvas->mapBitmap, true);
+        ReprojectBaseMap(render::WorldPicture(image));
         builtIn = false;
     }
     if (builtIn)
-        ReprojectBaseMap(render::BuiltInWorld(), *m_canvas->mapBitmap, true);
+        ReprojectBaseMap(render::BuiltInWorld());
     return true;
 }
 
-void WxKavFrame::ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& map, bool showProgress)
+void WxKavFrame::ReprojectBaseMap(const render::WorldPicture& source)
 {
     const int size = m_view->frame.mapSize;
     const geo::RowSampler rows = render::BaseMapRows(*m_view, source);
     std::optional<wxProgressDialog> progress;
-    if (showProgress && IsShown())
+    if (IsShown())
         progress.emplace("Kavdex", wxString(' ', 28) + "Creating Map" + wxString(' ', 28), size, this,
                          wxPD_APP_MODAL | wxPD_AUTO_HIDE);
     for (int first = 0; first < size; first += kBandRows)
     {
         const int end = std::min(first + kBandRows, size);
         {
-            const render::BitmapPixels pixels(map);
+            const render::BitmapPixels pixels(*m_canvas->mapBitmap);
             for (int row = first; row < end; ++row)
                 rows.Row(row, pixels.Row(row));
         }

@@ -62,10 +62,6 @@ void WxKavFrame::DrawOverlays()
         FollowTimeMode(m_propagationTimer, timeMode, kPropagationPeriodMs);
         DrawPropagation(true);
     }
-    else
-    {
-        m_propagationTimer.Stop();
-    }
     SetPropagationTools(propagation.show, propagation.frequency, propagation.parameter);
 }
 

@@ -65,9 +65,10 @@ int WxKavApp::OnRun()
 
 std::unique_ptr<Configuration> WxKavApp::ReadSettings() const
 {
+    const wxString name = "Kavdex";
     auto settings = commandLine.settings
-                        ? std::make_unique<Configuration>("Kavdex", *OpenSettingsFile(FileName(*commandLine.settings)))
-                        : std::make_unique<Configuration>("Kavdex");
+                        ? std::make_unique<Configuration>(name, *OpenSettingsFile(FileName(*commandLine.settings)))
+                        : std::make_unique<Configuration>(name);
     if (commandLine.time)
     {
         settings->greyzone.timeMode = kOnce;

@@ -12,19 +12,13 @@
 
 #include <array>
 
-namespace
-{
-/// A locator of the right length to write another into.
-constexpr const char* kScratchLocator = "AA11RR";
-} // namespace
-
 WxKavFrame::WxKavFrame(wxWindow* parent) : WxKavFrame(parent, std::make_unique<Configuration>("Kavdex")) {}
 
 WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings)
     : GUIFrame(parent),
-      m_settings(std::move(settings)),
       m_greylineTimer(this, ui::kIdGreylineTimer),
-      m_propagationTimer(this, ui::kIdPropagationTimer)
+      m_propagationTimer(this, ui::kIdPropagationTimer),
+      m_settings(std::move(settings))
 {
     SetStatusText("Kavmap By QQ0QQQ", 0);
     SetStatusText(wxVERSION_STRING, 1);
@@ -53,18 +47,16 @@ void WxKavFrame::ShowError(const wxString& text)
 
 void WxKavFrame::SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex)
 {
-    for (int id = ui::kIdFirstFrequency; id <= ui::kIdLastFrequency; ++id)
+    const auto set = [&](int id, bool isChosen)
     {
         m_toolBar->EnableTool(id, enable);
-        if (id - ui::kIdFirstFrequency == frequencyIndex)
+        if (isChosen)
             m_toolBar->ToggleTool(id, true);
-    }
-    for (int parameter = 0; parameter < 4; ++parameter)
-    {
-        m_toolBar->EnableTool(ui::kParameterTools[parameter], enable);
-        if (parameter == parameterIndex)
-            m_toolBar->ToggleTool(ui::kParameterTools[parameter], true);
-    }
+    };
+    for (int id = ui::kIdFirstFrequency; id <= ui::kIdLastFrequency; ++id)
+        set(id, id - ui::kIdFirstFrequency == frequencyIndex);
+    for (const int& id : ui::kParameterTools)
+        set(id, &id - ui::kParameterTools == parameterIndex);
     if (m_settings->greyzone.show)
         m_toolBar->ToggleTool(ui::kIdGreyline, true);
 }
@@ -116,8 +108,8 @@ void WxKavFrame::OnCanvasMotion(wxMouseEvent& event)
         SetStatusText("", 0);
         return;
     }
-    double lon = 0.0;
-    double lat = 0.0;
+    double lon{};
+    double lat{};
     m_view->projection.Inverse(lon, lat, point.x, point.y);
     lon *= geo::kDegPerRad;
     lat *= geo::kDegPerRad;

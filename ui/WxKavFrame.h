@@ -71,6 +71,9 @@ public:
     void SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex);
 
 protected:
+    /// A locator of the right length to write another into.
+    static constexpr const char* kScratchLocator = "AA11RR";
+
     void OnClose(wxCloseEvent& event) override;
     void OnQuit(wxCommandEvent& event) override;
     void OnProperties(wxCommandEvent& event) override;
@@ -82,6 +85,9 @@ protected:
     void OnFrequencyTool(wxCommandEvent& event) override;
     void OnParameterTool(wxCommandEvent& event) override;
     void OnGreylineTool(wxCommandEvent& event) override;
+
+    wxTimer m_greylineTimer;
+    wxTimer m_propagationTimer;
 
 private:
     void ShowStep(const wxString& text);
@@ -96,7 +102,7 @@ private:
     void EnableCreationTools(bool enable); ///< those for creating, saving and options
     bool NewMap();
     bool DrawBaseMaps();
-    void ReprojectBaseMap(const render::WorldPicture& source, wxBitmap& map, bool showProgress);
+    void ReprojectBaseMap(const render::WorldPicture& source);
     void DrawLayers();
     void DrawOverlays();
     void FinishCreation();
@@ -123,8 +129,6 @@ private:
     std::optional<std::int64_t> m_hourAngleDegree; ///< for which the greyline was last drawn in real time
 
     std::unique_ptr<Configuration> m_settings;
-    wxTimer m_greylineTimer;
-    wxTimer m_propagationTimer;
     std::optional<MapView> m_view;        ///< of the map on the canvas
     std::optional<render::Layer> m_layer; ///< for as long as a map is being created
 };
