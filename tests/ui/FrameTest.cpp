@@ -133,6 +133,7 @@ TEST_F(FrameTest, TellsAboutItself)
     for (const Dialogs::Message& message : dialogs.messages)
     {
         EXPECT_EQ(message.caption, "Welcome to...");
+        EXPECT_EQ(message.style & (wxOK | wxCANCEL | wxYES_NO | wxCENTRE), wxOK | wxCENTRE);
         EXPECT_EQ(message.text, "Kavmap by QQ0QQQ\n" wxVERSION_STRING "-Linux-Unicode build");
     }
 }

@@ -4,6 +4,10 @@
 
 #include <gmock/gmock.h>
 
+#include <wx/dcmemory.h>
+
+#include <set>
+
 namespace
 {
 using testing::ElementsAre;
@@ -64,6 +68,68 @@ TEST_F(MapCreationTest, SizesTheScrolledAreaToTheMap)
     settings->size = 1200;
     Create();
     EXPECT_EQ(Canvas().GetVirtualSize(), wxSize(1200, 1200));
+}
+
+TEST_F(MapCreationTest, ShowsTheMapButOffersNoToolMeanwhile)
+{
+    settings->meridians.show = true;
+    std::vector<bool> isShown;
+    frame->onStep = [&](const wxString& step)
+    {
+        isShown.push_back(frame->Picture().mapReady);
+        for (const int id : {1003, 5003, 1004})
+            EXPECT_EQ(Tools().GetToolEnabled(id), step == "Creating Map" && id != 5003) << step << id;
+        EXPECT_EQ(Status(0), step);
+    };
+    Create();
+    EXPECT_THAT(isShown, ElementsAre(false, true, true));
+    EXPECT_TRUE(Tools().GetToolEnabled(5003));
+}
+
+TEST_F(MapCreationTest, ChecksTheGreylineToolWhereTheSettingsAskForIt)
+{
+    for (const bool show : {true, false})
+    {
+        settings->greyzone.show = show;
+        settings->greyzone.timeMode = 2;
+        Create();
+        EXPECT_EQ(Tools().GetToolState(1017), show);
+    }
+}
+
+TEST_F(MapCreationTest, LeavesRoomForTheFiguresOfTheCompassInTheirFont)
+{
+    const auto radius = [this](const wxString& font)
+    {
+        settings->compass.text = {true, font, 0, 0};
+        settings->compass.show = true;
+        settings->compass.insideMap = false;
+        settings->compass.colour = 0;
+        settings->compass.alpha = 255;
+        settings->zoom = 5000;
+        Create();
+        // The first dark pixel from the left in the middle row is the ring.
+        const auto& row = ColoursOf(*frame->Picture().mapBitmap)[100];
+        return std::ranges::find_if(row, [](render::Argb c) { return c == 0xFF000000; }) - row.begin();
+    };
+    for (const wxString font : {"Sans 8", "Sans 20"})
+    {
+        wxBitmap bitmap(50, 50);
+        wxMemoryDC dc(bitmap);
+        wxFont measured;
+        measured.SetNativeFontInfoUserDesc(font);
+        dc.SetFont(measured);
+        EXPECT_NEAR(static_cast<double>(radius(font)), dc.GetTextExtent("123400").y + 200 / 100, 1) << font;
+    }
+}
+
+TEST_F(MapCreationTest, ShowsTheBuiltInWorldWithoutAnotherPicture)
+{
+    Create();
+    std::set<render::Argb> colours;
+    for (const auto& row : ColoursOf(*frame->Picture().mapBitmap))
+        colours.insert(row.begin(), row.end());
+    EXPECT_GT(colours.size(), 1000u);
 }
 
 TEST_F(MapCreationTest, HappensOnceAClick)
@@ -209,6 +275,15 @@ TEST_F(MapCreationTest, KeepsTheCentreWhenTheFieldHoldsNoLocator)
         EXPECT_EQ(settings->centreLoc, "JO65HQ") << text;
         EXPECT_EQ(LocatorField().GetValue(), "JO65HQ") << text;
     }
+}
+
+TEST_F(MapCreationTest, NamesNoPlaceWhereNeitherTheFieldNorTheCentreIsOne)
+{
+    settings->centreLat = 200;
+    TypeLocator("nowhere");
+    EXPECT_EQ(LocatorField().GetValue(), "AA11RR");
+    EXPECT_EQ(settings->centreLoc, "AA11RR");
+    EXPECT_EQ(settings->centreLat, 200);
 }
 
 TEST_F(MapCreationTest, LeavesTheStoredCentreAloneWhenTheFieldIsUntouched)

@@ -2,6 +2,7 @@
 #include "tests/support/FrameFixture.h"
 #include "tests/support/LayerFixture.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <gmock/gmock.h>
 
@@ -189,8 +190,33 @@ TEST_F(MapLayersTest, ReportAFileThatIsMissingWhateverTheOpacity)
     }
 }
 
+TEST_F(MapLayersTest, AreLeftOutWhereThereIsNoMemoryForThem)
+{
+    settings->size = 6000;
+    frame->Hide();
+    Create();
+    settings->plotSquares[0].file = home.Write("worked.log", "JO65");
+    LogLines log;
+    {
+        const ScarceMemory memory;
+        frame->DrawPlottedSquares(settings->plotSquares[0]);
+    }
+    ASSERT_EQ(log.lines.size(), 1u);
+    EXPECT_TRUE(log.lines[0].EndsWith(": Not enough memory for a layer: Hatching Squares..."));
+    EXPECT_TRUE(frame->Picture().mapBitmap);
+}
+
+TEST_F(MapLayersTest, TakeNoWiderPenThanTheLargestMap)
+{
+    settings->meridians = {true, 0x0000FF, 255, 5000000000};
+    Create(); // all of the map is inked
+    EXPECT_EQ(ColoursOf(*frame->Picture().mapBitmap)[100][130], Blended(*wxRED, 255));
+}
+
 TEST_F(MapLayersTest, ComplainOrKeepSilentWithoutAMap)
 {
+    settings->texts[0].file = settings->plotSquares[0].file = settings->borders[0].file = "no such file";
+    LogLines log;
     frame->DrawCompass();
     EXPECT_EQ(dialogs.Texts(), "Bitmap Error in function Compass\n");
     dialogs.messages.clear();
@@ -206,6 +232,8 @@ TEST_F(MapLayersTest, ComplainOrKeepSilentWithoutAMap)
     frame->DrawTextLabels(settings->texts[0]);
     frame->DrawPlottedSquares(settings->plotSquares[0]);
     EXPECT_EQ(dialogs.Texts(), "");
+    EXPECT_THAT(log.lines, IsEmpty());
+    EXPECT_THAT(steps, IsEmpty());
     EXPECT_FALSE(frame->Picture().mapBitmap);
 }
 

@@ -29,8 +29,8 @@ TEST_F(ProgramTest, PrintsItsVersionWithoutADisplay)
 TEST_F(ProgramTest, SaysWhatIsMissingWithoutADisplay)
 {
     EXPECT_EQ(Run("--render map.png", "-u DISPLAY -u WAYLAND_DISPLAY"), 1);
-    EXPECT_THAT(Err(), StartsWith("kavmap: no display"));
-    EXPECT_THAT(Err(), HasSubstr("xvfb-run -a"));
+    EXPECT_EQ(Err(),
+              "kavmap: no display to draw on: set DISPLAY, or start kavmap under a virtual one with xvfb-run -a\n");
 }
 
 TEST_F(ProgramTest, RefusesWrongUse)
@@ -230,6 +230,38 @@ TEST_F(ProgramTest, DrawsTheGreylineOfTheTimeThatIsGiven)
     const std::string noon = pixels("2026-06-21T12:00");
     EXPECT_EQ(pixels("2026-06-21T12:00"), noon);
     EXPECT_NE(pixels("2026-06-21T18:00"), noon);
+}
+
+TEST_F(ProgramTest, GivesVoacaplNothingToReadWhateverItReadsItself)
+{
+    home.Write("bin/voacapl", "#!/bin/sh\nreadlink /proc/self/fd/0 > \"$HOME/input.txt\"\nexit 1\n");
+    wxFileName(home.Path("bin/voacapl")).SetPermissions(0700);
+    wxFileName::Mkdir(home.Path("data/areadata/default"), 0700, wxPATH_MKDIR_FULL);
+    home.Write("own.ini", "Size=100\n[Propagation]\nShow=1\nDir=" + home.Path("data").utf8_string() + "\n");
+    const std::string path = "PATH=" + home.Path("bin").utf8_string() + ":$PATH ";
+    for (const char* redirections : {"</dev/zero", "<&-", "</dev/zero >&-"})
+    {
+        home.Write("input.txt", "");
+        const std::string command =
+            path + "timeout 100 " KAVMAP_PROGRAM " -s own.ini -r a.png " + redirections + " 2>err.txt";
+        EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 2) << redirections;
+        EXPECT_EQ(home.Read("input.txt"), "/dev/null\n") << redirections;
+        EXPECT_THAT(Err(), HasSubstr("Error calling VOACAP")) << redirections;
+    }
+}
+
+TEST_F(ProgramTest, WritesAndReadsNumbersWithAPointInAnyLocale)
+{
+    // A locale with a decimal comma, of this test's own.
+    const std::string locales = home.Path("locales").utf8_string();
+    wxFileName::Mkdir(home.Path("locales"));
+    if (std::system(("localedef -i da_DK -f UTF-8 " + locales + "/da_DK.UTF-8 >/dev/null 2>&1").c_str()) != 0)
+        GTEST_SKIP() << "there are no sources of locales";
+    home.Write("own.ini", "Size=100\n[Center\\ pos]\nLat=-33.5\nLon=151.25\nLoc=QF56PM\n");
+    EXPECT_EQ(Run("-s own.ini -r a.pnm"), 0);
+    const std::string expected = home.Read("a.pnm");
+    EXPECT_EQ(Run("-s own.ini -r b.pnm", "LOCPATH=" + locales + " LC_ALL=da_DK.UTF-8"), 0);
+    EXPECT_TRUE(home.Read("b.pnm") == expected);
 }
 
 TEST_F(ProgramTest, DrawsTheSmallestMap)

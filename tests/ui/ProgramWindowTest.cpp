@@ -4,7 +4,9 @@
 
 #include <wx/utils.h>
 
+#include <filesystem>
 #include <memory>
+#include <set>
 #include <signal.h>
 #include <string>
 #include <sys/wait.h>
@@ -90,6 +92,8 @@ public:
     {
         if (m_process != 0)
             return;
+        for (int file = STDERR_FILENO + 1; file < 256; ++file)
+            close(file); // what the test itself was given
         execl(KAVMAP_PROGRAM, "kavmap", static_cast<char*>(nullptr));
         _exit(127);
     }
@@ -109,6 +113,20 @@ public:
         m_hasEnded = m_hasEnded || waitpid(m_process, &m_status, WNOHANG) == m_process;
         return m_hasEnded;
     }
+    /// The open files of the program beyond its outputs that lead somewhere.
+    std::set<int> FilesThatAre(const std::filesystem::path& place) const
+    {
+        std::set<int> files;
+        std::error_code failed;
+        for (const auto& entry :
+             std::filesystem::directory_iterator("/proc/" + std::to_string(m_process) + "/fd", failed))
+            if (std::filesystem::read_symlink(entry.path(), failed) == place)
+                files.insert(std::stoi(entry.path().filename().string()));
+        files.erase(STDOUT_FILENO);
+        files.erase(STDERR_FILENO);
+        return files;
+    }
+
     bool HasSucceeded() const { return m_hasEnded && WIFEXITED(m_status) && WEXITSTATUS(m_status) == 0; }
 
 private:
@@ -138,6 +156,7 @@ TEST(ScreenProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
     ASSERT_NE(window, None);
     EXPECT_TRUE(Await([&] { return screen.HasIcon(window); }));
     EXPECT_FALSE(program.HasEnded());
+    EXPECT_EQ(program.FilesThatAre("/dev/null"), std::set<int>{STDIN_FILENO});
 
     screen.Close(window);
     EXPECT_TRUE(Await([&] { return program.HasEnded(); }));

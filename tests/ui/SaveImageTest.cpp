@@ -1,11 +1,14 @@
 #include "tests/support/FrameFixture.h"
 #include "tests/support/LayerFixture.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/ScarceMemory.h"
 
+#include <wx/dir.h>
 #include <wx/filename.h>
-#include <wx/log.h>
 
+#include <csignal>
 #include <filesystem>
+#include <sys/resource.h>
 
 namespace
 {
@@ -100,6 +103,62 @@ TEST_F(SaveImageTest, OffersTheLocatorAsName)
     EXPECT_TRUE(dialogs.fileDialogs[3].StartsWith("Image Files (*.bmp;"));
 }
 
+/// Keeps how the last file dialog was opened.
+class FileDialogStyle : public wxModalDialogHook
+{
+public:
+    FileDialogStyle() { Register(); }
+    ~FileDialogStyle() override { Unregister(); }
+
+    long style = 0;
+    wxWindow* parent = nullptr;
+
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        style = dynamic_cast<wxFileDialog&>(*dialog).GetWindowStyle();
+        parent = dialog->GetParent();
+        return wxID_NONE;
+    }
+};
+
+TEST_F(SaveImageTest, OffersEveryPictureAndAsksNothingBeforeOverwriting)
+{
+    const FileDialogStyle dialog;
+    home.Write("map.png", "an older picture");
+    SaveAs(home.Path("map.png"));
+    EXPECT_EQ(dialog.style & (wxFD_SAVE | wxFD_OPEN | wxFD_OVERWRITE_PROMPT | wxFD_MULTIPLE | wxFD_CHANGE_DIR),
+              wxFD_SAVE);
+    EXPECT_EQ(dialog.parent, frame);
+    EXPECT_EQ(dialogs.fileDialogs[3], "Image Files " + wxImage::GetImageExtWildcard());
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_TRUE(wxImage().LoadFile(home.Path("map.png"), wxBITMAP_TYPE_PNG));
+}
+
+TEST_F(SaveImageTest, BeginsInTheWorkingDirectoryOfTheMoment)
+{
+    wxFileName::Mkdir(home.Path("elsewhere"));
+    wxSetWorkingDirectory(home.Path("elsewhere"));
+    SaveAs("");
+    EXPECT_EQ(dialogs.fileDialogs[1], home.Path("elsewhere"));
+}
+
+TEST_F(SaveImageTest, SaysSoWhereACreationStoppedBeforeThereWasAMap)
+{
+    settings->size = 6000;
+    {
+        const ScarceMemory memory;
+        EXPECT_FALSE(frame->CreateMap());
+    }
+    dialogs.messages.clear();
+    SaveAs(home.Path("map.png"));
+    EXPECT_EQ(dialogs.Texts(), "Couldn't save " + home.Path("map.png") + "\n");
+    dialogs.messages.clear();
+    ClickTool(1017, true); // nothing to lay a greyline over
+    EXPECT_FALSE(frame->Picture().greylineBitmap);
+    EXPECT_EQ(dialogs.Texts(), "");
+}
+
 TEST_F(SaveImageTest, NamesTheParameterThatIsPlotted)
 {
     settings->propagation.show = true;
@@ -114,15 +173,55 @@ TEST_F(SaveImageTest, NamesTheParameterThatIsPlotted)
     }
 }
 
-TEST_F(SaveImageTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten)
+/// No file grows beyond a block for as long as it lives: as on a disc that is full.
+class FullDisc
 {
-    const wxString path = home.Write("directory/map.png", "precious");
+public:
+    FullDisc() : m_handlerBefore(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit small = m_before;
+        small.rlim_cur = 512;
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~FullDisc()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handlerBefore);
+    }
+    FullDisc(const FullDisc&) = delete;
+    FullDisc& operator=(const FullDisc&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handlerBefore)(int);
+};
+
+TEST_F(SaveImageTest, KeepsTheOldPictureWhenTheNewOneCannotBeWrittenInItsPlace)
+{
+    LogLines log;
+    for (const char* const name : {"map.png", "map.bmp", "map.jpg", "map.tif"})
+    {
+        home.Write(name, "precious");
+        {
+            const FullDisc disc;
+            SaveAs(home.Path(name));
+        }
+        EXPECT_EQ(home.Read(name), "precious") << name;
+        EXPECT_TRUE(log.lines.back().EndsWith(": Couldn't write the picture " + home.Path(name))) << log.lines.back();
+    }
+    wxArrayString files;
+    wxDir::GetAllFiles(home.Path(""), &files, "map*");
+    EXPECT_EQ(files.size(), 4u); // and nothing beside
+}
+
+TEST_F(SaveImageTest, LeavesADirectoryOfThatNameAlone)
+{
     wxFileName::Mkdir(home.Path("target.png"));
-    const wxLogNull silent;
-    SaveAs(home.Path("target.png")); // a directory
-    SaveAs(home.Path("missing/map.png"));
+    LogLines log;
+    SaveAs(home.Path("target.png"));
+    EXPECT_TRUE(log.lines.back().EndsWith("Couldn't write the picture " + home.Path("target.png")));
     EXPECT_TRUE(wxFileName::DirExists(home.Path("target.png")));
-    EXPECT_EQ(home.Read("directory/map.png"), "precious");
 }
 
 TEST_F(SaveImageTest, SaysWhyThePictureCannotBeWritten)
