@@ -8,6 +8,8 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
+#include <string>
 
 namespace
 {
@@ -85,6 +87,34 @@ void ClassifyWorld(benchmark::State& state)
         benchmark::DoNotOptimize(WorldClasses(values, scale));
 }
 BENCHMARK(ClassifyWorld)->Unit(benchmark::kMillisecond);
+
+/// A file of 200 MB that is no result, with or without line feeds.
+void GetOverNoise(benchmark::State& state)
+{
+    const auto path = std::filesystem::temp_directory_path() / "kavmap-bench-noise.vg1";
+    std::string block(1 << 20, '\0');
+    unsigned noise = 1;
+    for (char& c : block)
+    {
+        noise = noise * 1664525 + 1013904223;
+        c = static_cast<char>(noise >> 24);
+        if (c == '\n' && state.range(0) == 0)
+            c = 'x';
+    }
+    {
+        std::ofstream file(path, std::ios::binary);
+        file << "VOACAPL\nHOME\n999999  Latitude Longitude\n";
+        for (int i = 0; i < 200; ++i)
+            file << block;
+    }
+    for (auto _ : state)
+    {
+        LineReader file(wxString(path.string()));
+        benchmark::DoNotOptimize(ReadResult(file, Parameter::Sdbw));
+    }
+    std::filesystem::remove(path);
+}
+BENCHMARK(GetOverNoise)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void DrawOverlayPixels(benchmark::State& state)
 {
