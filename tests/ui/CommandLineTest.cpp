@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/string.h>
+#include <wx/version.h>
+
 #include <vector>
 
 #include <sys/stat.h>
@@ -75,6 +78,30 @@ TEST(CommandLine, EndsWithOneOnWrongUse)
     }
 }
 
+TEST(CommandLine, SaysWhatWasWrong)
+{
+    const auto said = [](const std::vector<std::string>& words)
+    {
+        testing::internal::CaptureStderr();
+        Parse(words);
+        return testing::internal::GetCapturedStderr();
+    };
+    EXPECT_EQ(said({"-s", "/no/such/file"}), "kavmap: can't read the settings file /no/such/file\n");
+    EXPECT_EQ(said({"-t", "noon"}), "kavmap: not a UTC time like 2026-03-20T12:30: noon\n");
+    EXPECT_EQ(said({"-r", "a.png", "stray", "other"}), "kavmap: unexpected argument: stray\n");
+    EXPECT_EQ(said({"--nonsense"}), "kavmap: unrecognized option '--nonsense'\n");
+    EXPECT_EQ(said({"-t"}), "kavmap: option requires an argument -- 't'\n");
+    EXPECT_EQ(said({"-r", "a.png"}), "");
+}
+
+TEST(CommandLine, KnowsItsOptionsByTheirNames)
+{
+    EXPECT_EQ(Parse({"--settings", "/dev/null"}).settings, "/dev/null");
+    EXPECT_EQ(Parse({"--time=2026-03-20T12:30"}).time, (UtcTime{2026, 2, 20, 12, 30, 0}));
+    EXPECT_EQ(Parse({"-r", "a.png"}).render, "a.png");
+    EXPECT_EQ(ui::ParseCommandLine(0, nullptr).exitStatus, std::nullopt);
+}
+
 TEST(CommandLine, TakesNoPipeForSettings)
 {
     const TemporaryHome home;
@@ -86,11 +113,23 @@ TEST(CommandLine, TakesNoPipeForSettings)
 
 TEST(CommandLine, EndsWithZeroOnHelpAndVersion)
 {
-    for (const char* word : {"-h", "--help", "--version"})
+    const auto printed = [](const char* word)
     {
         testing::internal::CaptureStdout();
         EXPECT_EQ(Parse({word}).exitStatus, 0);
-        EXPECT_FALSE(testing::internal::GetCapturedStdout().empty());
-    }
+        return testing::internal::GetCapturedStdout();
+    };
+    const std::string help = printed("--help");
+    EXPECT_EQ(printed("-h"), help);
+    for (const char* const line :
+         {"Usage: kavmap [OPTION...]\n\nDraws azimuthal maps of the world as seen from a radio station.\n",
+          "\n  -h, --help             print these options\n", "\n      --version          print the version\n",
+          "\n  -s, --settings FILE    take the settings from FILE (an .ini file, only read)\n",
+          "\n  -r, --render PICTURE   create the map, write it to PICTURE and exit; the format\n"
+          "                         goes by the ending: .png .jpg .bmp .pcx .pnm .tif\n",
+          "\n  -t, --time TIME        draw for this UTC time, written YYYY-MM-DDTHH:MM\n",
+          "\nExit status: 0 all went well, 1 nothing was written, 2 the picture was written but\na layer failed.\n"})
+        EXPECT_NE(help.find(line), std::string::npos) << line;
+    EXPECT_EQ(printed("--version"), "Kavmap 3.1.9\n" + wxString(wxVERSION_STRING).utf8_string() + "\n");
 }
 } // namespace

@@ -2,6 +2,10 @@
 
 #include <wx/uiaction.h>
 
+#include <cmath>
+#include <cstdlib>
+#include <random>
+
 namespace
 {
 class OptionsHome : public OptionsFixture
@@ -59,6 +63,86 @@ TEST_F(OptionsHome, FillsDegreesMinutesAndSecondsWhileTheDecimalIsTyped)
     EXPECT_EQ(Parts(longitude), "0 0 0 W"); // zero has no side of its own
     Type(longitude.decimal, "180");
     EXPECT_EQ(Parts(longitude), "180 0 0 E");
+}
+
+TEST_F(OptionsHome, SplitsEveryDecimalIntoWholeDegreesMinutesAndSeconds)
+{
+    std::mt19937 random(51);
+    for (int i = 0; i < 200; ++i)
+    {
+        const bool isLatitude = i % 2 == 0;
+        const ui::PositionRow& row = isLatitude ? latitude : longitude;
+        // In ten thousandths of a degree, as they are typed: 0.36 seconds.
+        const int limit = isLatitude ? 900000 : 1800000;
+        const int decimal = std::uniform_int_distribution(-limit, limit)(random);
+        Type(row.decimal, wxString::Format("%s%d.%04d", decimal < 0 ? "-" : "", std::abs(decimal) / 10000,
+                                           std::abs(decimal) % 10000));
+        const int hundredths = std::abs(decimal) * 36;
+        const int seconds = std::min(59, (hundredths % 6000 + 50) / 100);
+        const char* const sides = isLatitude ? "NS" : "EW";
+        EXPECT_EQ(Parts(row), wxString::Format("%d %d %d %c", hundredths / 360000, hundredths / 6000 % 60, seconds,
+                                               sides[decimal < 0 ? 1 : 0]))
+            << row.decimal->GetValue();
+    }
+}
+
+TEST_F(OptionsHome, JoinsDegreesMinutesAndSecondsToFourDecimals)
+{
+    std::mt19937 random(52);
+    const auto upTo = [&](int max) { return std::uniform_int_distribution(0, max)(random); };
+    for (int i = 0; i < 200; ++i)
+    {
+        const bool isLatitude = i % 2 == 0;
+        const ui::PositionRow& row = isLatitude ? latitude : longitude;
+        const int deg = upTo(isLatitude ? 89 : 179);
+        const int min = upTo(59);
+        const int sec = upTo(59);
+        const int side = upTo(1);
+        TypeParts(row, wxString::Format("%d", deg), wxString::Format("%d", min), wxString::Format("%d", sec), side);
+        const double degrees = (deg * 3600 + min * 60 + sec) / 3600.0;
+        double decimal = 0;
+        ASSERT_TRUE(row.decimal->GetValue().ToCDouble(&decimal));
+        EXPECT_NEAR(decimal, side == 1 ? -degrees : degrees, 0.5001e-4);
+        EXPECT_EQ(row.decimal->GetValue().AfterFirst('.').length(), 4u);
+    }
+}
+
+TEST_F(OptionsHome, LeavesTheCursorAfterALimitThatItPutsInPlace)
+{
+    Type(latitude.decimal, "95");
+    EXPECT_EQ(latitude.decimal->GetInsertionPoint(), 4);
+    Type(longitude.decimal, "-195");
+    EXPECT_EQ(longitude.decimal->GetInsertionPoint(), 6);
+}
+
+TEST_F(OptionsHome, KeepsPartsAtTheirLimits)
+{
+    TypeParts(latitude, "90", "0", "0", 0);
+    EXPECT_EQ(latitude.decimal->GetValue(), "90.0000");
+    EXPECT_EQ(Parts(latitude), "90 0 0 N");
+    TypeParts(longitude, "180", "0", "0", 1);
+    EXPECT_EQ(longitude.decimal->GetValue(), "-180.0000");
+    TypeParts(longitude, "0", "59", "59", 0);
+    EXPECT_EQ(Parts(longitude), "0 59 59 E");
+    EXPECT_EQ(longitude.decimal->GetValue(), "0.9997");
+    for (const char* const part : {"x", "inf", ""}) // whichever of the three it is
+    {
+        TypeParts(latitude, part, "1", "2", 0);
+        EXPECT_EQ(latitude.decimal->GetValue(), "90.0000") << part;
+        TypeParts(latitude, "1", "2", part, 0);
+        EXPECT_EQ(latitude.decimal->GetValue(), "90.0000") << part;
+    }
+}
+
+TEST_F(OptionsHome, MakesNoLocatorOfALongitudeBeyondTheLimit)
+{
+    longitude.decimal->ChangeValue("180.5");
+    Click(dialog->m_homePage.locatorFromLatLon);
+    EXPECT_EQ(dialog->m_homePage.locator->GetValue(), "JO65HQ");
+    longitude.decimal->ChangeValue("179.99");
+    latitude.decimal->ChangeValue("-89.99");
+    Click(dialog->m_homePage.locatorFromLatLon);
+    EXPECT_EQ(dialog->m_homePage.locator->GetValue(), "RA90XA");
 }
 
 TEST_F(OptionsHome, BringsDecimalsBeyondTheLimitBack)
