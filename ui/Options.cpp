@@ -34,6 +34,8 @@ Options::Options(wxWindow* parent)
     SetSizer(content);
     ChooseSize();
     BindEvents();
+    // Else the focus would be on a page of the inner notebook, where nobody sees it and no key does anything.
+    m_book->SetFocus();
 }
 
 void Options::CreateButtons()

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "tests/support/Await.h"
 #include "tests/support/Dialogs.h"
 #include "tests/support/TemporaryHome.h"
 #include "ui/Ids.h"
 #include "ui/WxKavFrame.h"
 
 #include <gtest/gtest.h>
-
-#include <wx/app.h>
-#include <wx/evtloop.h>
-#include <wx/utils.h>
 
 /// A real main window on an empty home, with small maps, and what a user can do to it.
 class FrameFixture : public testing::Test
@@ -33,27 +30,13 @@ protected:
     }
 
     /// Lets all pending events happen.
-    static void Settle()
-    {
-        for (int i = 0; i < 5; ++i)
-        {
-            wxTheApp->Yield(true);
-            wxTheApp->ProcessPendingEvents();
-            wxTheApp->ProcessIdle();
-        }
-    }
+    static void Settle() { LetEventsHappen(); }
 
     /// Lets events happen until something has become true, ten seconds at most.
     template <class Condition>
     static bool Await(Condition condition)
     {
-        for (int i = 0; i < 200; ++i, wxMilliSleep(50))
-        {
-            Settle();
-            if (condition())
-                return true;
-        }
-        return false;
+        return AwaitEvents(condition);
     }
 
     /// From now on keeps the texts of the steps of a creation.

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "config/SettingsFile.h"
+#include "tests/support/Await.h"
 #include "tests/support/Dialogs.h"
 #include "tests/support/TemporaryHome.h"
 #include "ui/KavMapOptions.h"
 
 #include <gtest/gtest.h>
-
-#include <wx/app.h>
 
 #include <functional>
 
@@ -63,15 +62,7 @@ protected:
         return dialog->ShowModal();
     }
 
-    static void Settle()
-    {
-        for (int i = 0; i < 5; ++i)
-        {
-            wxTheApp->Yield(true);
-            wxTheApp->ProcessPendingEvents();
-            wxTheApp->ProcessIdle();
-        }
-    }
+    static void Settle() { LetEventsHappen(); }
 
     static void Send(wxEventType type, wxWindow* control)
     {
