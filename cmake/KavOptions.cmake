@@ -37,3 +37,4 @@ kav_find_wx(kav_wx_core core base)
 
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(kav_cairo REQUIRED IMPORTED_TARGET cairo)
+pkg_check_modules(kav_gtk REQUIRED IMPORTED_TARGET gtk+-3.0)

@@ -1,5 +1,7 @@
 #include "ui/MapCanvas.h"
 
+#include "ui/Native.h"
+
 #include <wx/dcbuffer.h>
 #include <wx/settings.h>
 
@@ -8,6 +10,7 @@ MapCanvas::MapCanvas(wxWindow* parent, wxWindowID id, const wxPoint& position, c
 {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
+    ui::native::ReportEveryMotion(this);
     Bind(wxEVT_PAINT, &MapCanvas::OnPaint, this);
 }
 

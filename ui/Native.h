@@ -1,0 +1,11 @@
+#pragma once
+
+#include <wx/window.h>
+
+// What the toolkit leaves to the library below it. All calls to that library are in Native.cpp.
+namespace ui::native
+{
+/// Has a window told of every motion of the pointer. By default some are left out, the last one of a quick stroke too.
+/// To be called before the window is on the screen.
+void ReportEveryMotion(wxWindow* window);
+} // namespace ui::native
