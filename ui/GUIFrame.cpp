@@ -19,6 +19,7 @@
 #include "resources/icons/signal.xpm"
 #include "resources/icons/snr.xpm"
 #include "ui/Ids.h"
+#include "ui/SharedStatusBar.h"
 
 #include <wx/menu.h>
 #include <wx/sizer.h>
@@ -61,9 +62,6 @@ GUIFrame::GUIFrame(wxWindow* parent)
 {
     CreateMenus();
     m_statusBar = CreateStatusBar(2, wxSTB_SIZEGRIP);
-    // The read-out of the pointer is longer than that of the sun; so every number of both has room from the start.
-    constexpr int kShares[] = {-7, -6};
-    m_statusBar->SetStatusWidths(2, kShares);
     m_canvas = new MapCanvas(this);
     m_canvas->SetScrollRate(5, 5);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
@@ -76,6 +74,13 @@ GUIFrame::GUIFrame(wxWindow* parent)
 void GUIFrame::DoGiveHelp(const wxString& text, bool show)
 {
     wxFrame::DoGiveHelp(text, show && !text.empty());
+}
+
+wxStatusBar* GUIFrame::OnCreateStatusBar(int number, long style, wxWindowID id, const wxString&)
+{
+    auto* const bar = new SharedStatusBar(this, id, style);
+    bar->SetFieldsCount(number);
+    return bar;
 }
 
 void GUIFrame::CreateMenus()

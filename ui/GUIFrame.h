@@ -34,6 +34,8 @@ protected:
     virtual void OnParameterTool(wxCommandEvent& event) { event.Skip(); }
     virtual void OnGreylineTool(wxCommandEvent& event) { event.Skip(); }
 
+    wxStatusBar* OnCreateStatusBar(int number, long style, wxWindowID id, const wxString& name) override;
+
     // Owned by the window tree.
     MapCanvas* m_canvas = nullptr;
     wxToolBar* m_toolBar = nullptr;

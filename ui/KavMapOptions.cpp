@@ -1,17 +1,29 @@
 #include "ui/KavMapOptions.h"
 
 #include "config/SettingsFile.h"
+#include "render/Style.h"
 #include "ui/SquaresPreview.h"
 
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 
 #include <algorithm>
+#include <type_traits>
 
 namespace
 {
 constexpr const char* kIniFiles = "INI files (*.ini)|*.ini";
+
+/// A colour as its picker gives it back: that the highest blue becomes a little less is no change that one would see.
+template <class T>
+T AsPicked(const wxString& key, const T& value)
+{
+    if constexpr (std::is_same_v<T, long>)
+        if (key.Contains("Colour"))
+            return ui::SettingFromPicked(ColourFromSetting(value));
+    return value;
 }
+} // namespace
 
 KavMapOptions::KavMapOptions(wxWindow* parent, Configuration& settings)
     : Options(parent),
@@ -179,7 +191,7 @@ void KavMapOptions::OnLocatorFromLatLon(wxCommandEvent&)
 KavMapOptions::Values KavMapOptions::CurrentValues()
 {
     Values values;
-    m_settings.ForEachSetting([&values](const wxString&, const auto& member, const auto&)
-                              { values.emplace_back(member); });
+    m_settings.ForEachSetting([&values](const wxString& key, const auto& member, const auto&)
+                              { values.emplace_back(AsPicked(key, member)); });
     return values;
 }

@@ -14,6 +14,26 @@ MapCanvas::MapCanvas(wxWindow* parent, wxWindowID id, const wxPoint& position, c
     Bind(wxEVT_PAINT, &MapCanvas::OnPaint, this);
 }
 
+void MapCanvas::MakeRoomFor(int mapSize)
+{
+    if (mapSize == m_mapSize)
+        return;
+    m_mapSize = mapSize;
+    SetVirtualSize(mapSize, mapSize);
+    ShowStation();
+    // The scroll bars that the map needs come a little later and take some of the view.
+    CallAfter(&MapCanvas::ShowStation);
+}
+
+void MapCanvas::ShowStation()
+{
+    const wxSize view = GetClientSize();
+    int stepX = 1;
+    int stepY = 1;
+    GetScrollPixelsPerUnit(&stepX, &stepY);
+    Scroll((m_mapSize - view.x) / 2 / stepX, (m_mapSize - view.y) / 2 / stepY);
+}
+
 void MapCanvas::ShowPicture()
 {
     Refresh();

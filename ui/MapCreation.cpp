@@ -101,7 +101,7 @@ bool WxKavFrame::NewMap()
         return false;
     }
     m_canvas->mapReady = true;
-    m_canvas->SetVirtualSize(m_view->frame.mapSize, m_view->frame.mapSize);
+    m_canvas->MakeRoomFor(m_view->frame.mapSize);
     return true;
 }
 

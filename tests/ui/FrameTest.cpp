@@ -19,18 +19,6 @@ TEST_F(FrameTest, GreetsWithItsNameAndTheToolkitsVersion)
     EXPECT_EQ(LocatorField().GetValue(), "JO65HQ");
 }
 
-TEST_F(FrameTest, HasRoomForAllNumbersOfTheLongestReadOuts)
-{
-    const wxStatusBar& bar = *frame->GetStatusBar();
-    const auto hasRoom = [&bar](int field, const wxString& text)
-    {
-        wxRect room;
-        return bar.GetFieldRect(field, room) && bar.GetTextExtent(text).x + 2 <= room.width;
-    };
-    EXPECT_TRUE(Await([&] { return hasRoom(0, "lat = -88.8 / long = -178.8 / AA00AA / 18888.8 km / 288.8 de"); }));
-    EXPECT_TRUE(Await([&] { return hasRoom(1, "2026-08-28 08:08 Z | SunAz 288.888 | SunEl -88.888"); }));
-}
-
 TEST_F(FrameTest, KeepsTheStatusWhereThePointerIsOverAToolWithoutHelp)
 {
     frame->SetStatusText("Finished...");
