@@ -19,6 +19,7 @@
 #include "resources/icons/signal.xpm"
 #include "resources/icons/snr.xpm"
 #include "ui/Ids.h"
+#include "ui/Native.h"
 #include "ui/SharedStatusBar.h"
 
 #include <wx/menu.h>
@@ -69,6 +70,7 @@ GUIFrame::GUIFrame(wxWindow* parent)
     SetSizer(sizer);
     CreateTools();
     BindCommands();
+    ui::native::AllocateSize(this);
 }
 
 void GUIFrame::DoGiveHelp(const wxString& text, bool show)

@@ -8,4 +8,8 @@ namespace ui::native
 /// Has a window told of every motion of the pointer. By default some are left out, the last one of a quick stroke too.
 /// To be called before the window is on the screen.
 void ReportEveryMotion(wxWindow* window);
+
+/// Gives a window that has not been shown its size at once. Else it and all in it are a pixel wide at first, and the
+/// toolbar complains on standard error.
+void AllocateSize(wxWindow* topLevel);
 } // namespace ui::native
