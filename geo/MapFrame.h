@@ -39,6 +39,9 @@ RangeAndBearing RangeAndBearingOf(MapPoint point);
 class MapFrame
 {
 public:
+    /// Of no size yet.
+    MapFrame() = default;
+
     /**
      * @param[in] size   side of the picture in pixels, 100..8000.
      * @param[in] radius great-circle distance from the centre to the edge of the disc, metres.
@@ -53,9 +56,9 @@ public:
     /// The point at a pixel, given as column and row; both may lie outside the picture.
     geo::MapPoint PixelToMap(int column, int row) const;
 
-    int mapSize;
-    std::int64_t mapRadius;
-    int mapMargin;
-    double metresPerPixel;
-    int half; ///< column and row of the station: mapSize / 2
+    int mapSize{};
+    std::int64_t mapRadius{};
+    int mapMargin{};
+    double metresPerPixel = 1.0;
+    int half{}; ///< column and row of the station: mapSize / 2
 };

@@ -6,6 +6,12 @@
 
 namespace
 {
+TEST(MapFrame, HasAScaleBeforeItHasASize)
+{
+    EXPECT_EQ(MapFrame().mapSize, 0);
+    EXPECT_EQ(MapFrame().MapToPixel(7.0, -3.0), (geo::Pixel{7, 3}));
+}
+
 TEST(MapFrame, HasAWholeNumberOfMetresAPixel)
 {
     const MapFrame frame(900, 20000000, 10);
