@@ -9,19 +9,19 @@
 /// How the lines of a layer are drawn.
 struct LineStyle
 {
-    bool show = false;
-    long colour = 0; ///< R + 256 G + 65536 B, as every colour here
-    long alpha = 0;  ///< opacity, 0 invisible .. 255 opaque
-    long lineWidth = 0;
+    bool show{};
+    long colour{}; ///< R + 256 G + 65536 B, as every colour here
+    long alpha{};  ///< opacity, 0 invisible .. 255 opaque
+    long lineWidth{};
 };
 
 /// How the texts of a layer are drawn.
 struct TextStyle
 {
-    bool show = false;
+    bool show{};
     wxString font; ///< the toolkit's user-readable native font description
-    long colour = 0;
-    long alpha = 0;
+    long colour{};
+    long alpha{};
 };
 
 /// A grid with names: its lines and its labels.
@@ -32,19 +32,19 @@ struct LabelledLines : LineStyle
 
 struct CompassSettings : LabelledLines
 {
-    bool insideMap = false;
+    bool insideMap{};
 };
 
 struct RadialsSettings : LineStyle
 {
-    int every = 0; ///< choice: 5, 10, 15, 30 or 45 degrees
+    int every{}; ///< choice: 5, 10, 15, 30 or 45 degrees
 };
 
 struct RangeCirclesSettings : LineStyle
 {
-    long distanceKm = 0;
-    bool legendShow = false;
-    long legendBearingDeg = 0;
+    long distanceKm{};
+    bool legendShow{};
+    long legendBearingDeg{};
 };
 
 struct BorderSlot : LineStyle
@@ -55,36 +55,36 @@ struct BorderSlot : LineStyle
 struct TextSlot : TextStyle
 {
     wxString file;
-    int align = 0; ///< choice: five alignments, then the same five with a dot
-    bool avoidCollisions = false;
+    int align{}; ///< choice: five alignments, then the same five with a dot
+    bool avoidCollisions{};
 };
 
 struct SourceBitmapSlot
 {
-    bool show = false;
+    bool show{};
     wxString file;
 };
 
 struct PlotSquaresSlot
 {
-    bool show = false;
+    bool show{};
     wxString file;
-    int stipple = 0; ///< choice: seven hatchings, 0 is solid
-    long borderColour = 0;
-    long fillColour = 0;
-    long alpha = 0;
+    int stipple{}; ///< choice: seven hatchings, 0 is solid
+    long borderColour{};
+    long fillColour{};
+    long alpha{};
 };
 
 /// The greyline, and the time that it shares with the propagation overlay.
 struct GreyzoneSettings
 {
-    bool show = false;
-    long widthDeg = 0;
-    bool gradient = false;
-    long darkeningGrey = 0;  ///< percent: 100 no darkening, 0 black
-    long darkeningNight = 0; ///< percent
-    int timeMode = 0;        ///< kRealTime, kOnce; any other value draws nothing
-    UtcTime once{};          ///< the time of kOnce, its seconds always 0
+    bool show{};
+    long widthDeg{};
+    bool gradient{};
+    long darkeningGrey{};  ///< percent: 100 no darkening, 0 black
+    long darkeningNight{}; ///< percent
+    int timeMode{};        ///< kRealTime, kOnce; any other value draws nothing
+    UtcTime once{};        ///< the time of kOnce, its seconds always 0
 };
 
 inline constexpr int kRealTime = 0;
@@ -108,18 +108,18 @@ struct AntennaSettings
 /// The propagation overlay. Numbers that are kept as text stay as the user typed them.
 struct PropagationSettings
 {
-    bool show = false;
-    int engine = 0;
-    long sunspotNumber = 0;
-    int grid = 0; ///< choice
+    bool show{};
+    int engine{};
+    long sunspotNumber{};
+    int grid{}; ///< choice
     wxString directory;
-    int frequency = 0; ///< choice
-    long alpha = 0;
-    long greyScale = 0;
-    int txPower = 0; ///< choice
+    int frequency{}; ///< choice
+    long alpha{};
+    long greyScale{};
+    int txPower{}; ///< choice
     AntennaSettings transmitter;
     AntennaSettings receiver;
-    bool useExternalResult = false;
+    bool useExternalResult{};
     wxString externalResult;
     wxString userFrequencyMHz;
     wxString manMadeNoise;
@@ -129,11 +129,11 @@ struct PropagationSettings
     wxString multipathPowerTolerance;
     wxString maxMultipathDelay;
     std::array<wxString, 4> layerMultipliers; ///< FoE, FoF1, FoF2, FoEs
-    long paramGrey = 0;                       ///< kept, not used
-    long autoLevel = 0;
-    long legend = 0;
-    long paramAlpha = 0;               ///< kept, not used
-    int parameter = 0;                 ///< 0 SDBW, 1 SNR, 2 MUF, 3 REL
+    long paramGrey{};                         ///< kept, not used
+    long autoLevel{};
+    long legend{};
+    long paramAlpha{};                 ///< kept, not used
+    int parameter{};                   ///< 0 SDBW, 1 SNR, 2 MUF, 3 REL
     std::array<ColourScale, 4> scales; ///< by parameter
 };
 
@@ -189,11 +189,11 @@ public:
      */
     static int LocatorToLatLon(double& lat, double& lon, wxString& locator);
 
-    double centreLat = 0.0; ///< degrees, north positive
-    double centreLon = 0.0; ///< degrees, east positive
+    double centreLat{}; ///< degrees, north positive
+    double centreLon{}; ///< degrees, east positive
     wxString centreLoc;
-    long zoom = 0; ///< radius of the map in kilometres
-    long size = 0; ///< side of the map in pixels
+    long zoom{}; ///< radius of the map in kilometres
+    long size{}; ///< side of the map in pixels
     LineStyle meridians;
     LabelledLines fields;
     LabelledLines squares;

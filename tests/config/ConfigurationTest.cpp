@@ -1,12 +1,11 @@
 #include "config/Configuration.h"
 
 #include "config/SettingsFile.h"
+#include "tests/support/RecordedLog.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <wx/log.h>
 
 #include <fstream>
 #include <map>
@@ -240,12 +239,9 @@ TEST(Configuration, ReportsNothingAboutDamagedFiles)
 {
     const TemporaryHome home;
     home.Write(".Kavdex", "[Compass\nShow=7\n=\n\xff\xfe\x00junk\n[Greyzone]\nShow=maybe\n"s);
-    wxLogBuffer log;
-    wxLog* before = wxLog::SetActiveTarget(&log);
+    const RecordedLog log;
     const Configuration settings("Kavdex");
-    wxLog::FlushActive();
-    wxLog::SetActiveTarget(before);
-    EXPECT_EQ(log.GetBuffer(), "");
+    EXPECT_EQ(log.Text(), "");
     EXPECT_FALSE(settings.greyzone.show);
 }
 

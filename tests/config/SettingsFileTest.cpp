@@ -1,11 +1,12 @@
 #include "config/SettingsFile.h"
 
 #include "config/Configuration.h"
+#include "tests/support/RecordedLog.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
 
-#include <wx/log.h>
+#include <wx/filefn.h>
 
 namespace
 {
@@ -14,6 +15,24 @@ TEST(SettingsFile, IsLookedUpInTheWorkingDirectory)
     const TemporaryHome home;
     home.Write("sub/mine.ini", "Size=321\n");
     EXPECT_EQ(OpenSettingsFile("sub/mine.ini")->ReadLong("Size", 0), 321);
+    wxSetWorkingDirectory(home.Path("sub")); // not the home directory
+    EXPECT_EQ(OpenSettingsFile("mine.ini")->ReadLong("Size", 0), 321);
+    EXPECT_EQ(OpenSettingsFile(home.Path("sub/mine.ini"))->ReadLong("Size", 0), 321);
+}
+
+TEST(SettingsFile, GivesTextsAsTheyStand)
+{
+    const TemporaryHome home;
+    home.Write("mine.ini", "Text=$HOME\n");
+    EXPECT_EQ(OpenSettingsFile("mine.ini")->Read("Text"), "$HOME");
+}
+
+TEST(SettingsFile, IsTheOnlyFileWritten)
+{
+    const TemporaryHome home;
+    OpenSettingsFile("mine.ini")->Write("Size", 5L);
+    EXPECT_EQ(home.Read("mine.ini"), "Size=5\n");
+    EXPECT_EQ(home.Read(".Kavdex"), "");
 }
 
 TEST(SettingsFile, KeepsEntriesThatTheProgramDoesNotKnow)
@@ -33,8 +52,7 @@ TEST(SettingsFile, ThatCannotBeReadGivesDefaultsSilently)
     const TemporaryHome home;
     home.Write("noise.ini", std::string("\x00\xff\xfe[[[=\n]=\x80\x01\n[Size", 18));
     home.Write("directory.ini/file", "");
-    wxLogBuffer log;
-    wxLog* before = wxLog::SetActiveTarget(&log);
+    const RecordedLog log;
     Configuration settings("Kavdex");
     for (const char* name : {"noise.ini", "directory.ini", "missing.ini"})
     {
@@ -42,7 +60,6 @@ TEST(SettingsFile, ThatCannotBeReadGivesDefaultsSilently)
         settings.ReadAllFrom(*OpenSettingsFile(name));
         EXPECT_EQ(settings.size, 900) << name;
     }
-    wxLog::SetActiveTarget(before);
-    EXPECT_EQ(log.GetBuffer(), "");
+    EXPECT_EQ(log.Text(), "");
 }
 } // namespace

@@ -14,7 +14,16 @@ TEST(UtcTime, FollowsTheClockThatIsSet)
 {
     const Clock before = SetClock([] { return std::time_t{1793446245}; });
     EXPECT_EQ(UtcNow(), (UtcTime{2026, 9, 31, 11, 30, 45}));
-    SetClock(before);
-    EXPECT_GE(UtcNow().year, 2026);
+    EXPECT_NE(SetClock(before), before);
+}
+
+TEST(UtcTime, IsTheSystemsTimeUnlessAClockIsSet)
+{
+    const std::time_t earliest = std::time(nullptr);
+    const UtcTime now = UtcNow();
+    std::time_t second = earliest;
+    while (!(UtcTimeOf(second) == now) && second <= std::time(nullptr))
+        ++second;
+    EXPECT_EQ(UtcTimeOf(second), now) << "at " << earliest;
 }
 } // namespace
