@@ -95,9 +95,8 @@ cairo_t* BitmapPixels::ContextOf(const wxBitmap& bitmap)
     if (!mayReachInPlace)
         return nullptr;
     cairo_t* const context = bitmap.CairoCreate();
-    cairo_surface_t* const surface = cairo_get_target(context);
-    const bool isImage = cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE;
-    const cairo_format_t format = isImage ? cairo_image_surface_get_format(surface) : CAIRO_FORMAT_INVALID;
+    // A surface that is no memory has no format.
+    const cairo_format_t format = cairo_image_surface_get_format(cairo_get_target(context));
     if (format == CAIRO_FORMAT_RGB24 || format == CAIRO_FORMAT_ARGB32)
         return context;
     cairo_destroy(context);

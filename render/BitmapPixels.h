@@ -74,7 +74,7 @@ private:
     int m_height;
     struct _cairo* m_context = nullptr; ///< keeps the surface alive; none when an image is used
     Argb* m_pixels = nullptr;
-    std::size_t m_stride = 0; ///< pixels from row to row
+    std::size_t m_stride{}; ///< pixels from row to row
     std::vector<Argb> m_copy;
 };
 

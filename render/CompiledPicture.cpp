@@ -20,7 +20,7 @@ std::size_t KeyNumber(const char* key)
 
 Argb ColourOf(const char* line)
 {
-    constexpr std::size_t kDigits = kKeyLength + sizeof " c #" - 1;
+    constexpr std::size_t kDigits = kKeyLength + 4; // after " c #"
     return 0xFF000000U | static_cast<Argb>(std::strtoul(line + kDigits, nullptr, 16));
 }
 } // namespace

@@ -7,7 +7,6 @@
 #include <wx/dcmemory.h>
 
 #include <array>
-#include <cmath>
 #include <vector>
 
 namespace render
@@ -42,20 +41,17 @@ void PaintShade(wxBitmap& overlay, const geo::GreylineRows& rows)
     }
 }
 
-/// Eight rays and a disc.
+/// Eight rays, ten pixels long, and a disc.
 void DrawSun(wxBitmap& overlay, geo::Pixel at)
 {
-    constexpr int kRayLength = 10;
+    static constexpr std::array<geo::Pixel, 8> kRays{
+        {{0, -10}, {7, -7}, {10, 0}, {7, 7}, {0, 10}, {-7, 7}, {-10, 0}, {-7, -7}}};
     wxMemoryDC dc(overlay);
     SwitchSmoothingOff(dc);
     dc.SetPen(wxPen(wxColour(255, 255, 0)));
     dc.SetBrush(*wxYELLOW_BRUSH);
-    for (int degrees = 0; degrees < 360; degrees += 45)
-    {
-        const double angle = degrees * geo::kRadPerDeg;
-        dc.DrawLine(at.x, at.y, at.x + static_cast<int>(std::lround(kRayLength * std::sin(angle))),
-                    at.y - static_cast<int>(std::lround(kRayLength * std::cos(angle))));
-    }
+    for (const geo::Pixel ray : kRays)
+        dc.DrawLine(at.x, at.y, at.x + ray.x, at.y + ray.y);
     dc.DrawEllipse(at.x - 4, at.y - 4, 8, 8);
 }
 } // namespace

@@ -19,9 +19,9 @@ void PreferHugePages(void* memory, std::size_t bytes)
 
 void PreferHugePagesOf(cairo_surface_t* surface)
 {
-    if (cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE)
-        PreferHugePages(cairo_image_surface_get_data(surface),
-                        static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) *
-                            static_cast<std::size_t>(cairo_image_surface_get_height(surface)));
+    // A surface that is no memory has no height.
+    PreferHugePages(cairo_image_surface_get_data(surface),
+                    static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) *
+                        static_cast<std::size_t>(cairo_image_surface_get_height(surface)));
 }
 } // namespace render

@@ -179,6 +179,20 @@ TEST(WorldPicture, DoesNotLookAtOpacity)
     EXPECT_EQ(render::WorldPicture(image).Cells().Pixels()[7], render::OpaquePixel(3, 0, 1));
 }
 
+TEST(WorldPicture, IsBlackJustBeyondItsEdges)
+{
+    wxImage image(4, 2);
+    image.Clear(255);
+    const render::WorldPicture world(image);
+    const auto at = [&](double lat, double lon) {
+        return world.Cells().At({lat * std::numbers::pi / 180, lon * std::numbers::pi / 180});
+    };
+    EXPECT_EQ(at(0, 179.9), 0xFFFFFFFF);
+    EXPECT_EQ(at(-89.9, 0), 0xFFFFFFFF);
+    EXPECT_EQ(at(0, 180), 0xFF000000);
+    EXPECT_EQ(at(-90, 0), 0xFF000000);
+}
+
 TEST(BuiltInWorld, IsTheRightWayRound)
 {
     const render::WorldPicture& world = render::BuiltInWorld();

@@ -127,7 +127,10 @@ TEST(BitmapPixels, AreSeenByTheToolkitAtOnce)
 
 TEST(Bitmaps, GiveTheirMemoryBack)
 {
-    // Each round takes 36 MB: two of them at a time would be too much.
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "AddressSanitizer keeps memory that was given back";
+#endif
+    // A round takes up to 32 MB at a time, and 48 MB are left.
     const ScarceMemory scarce;
     for (int i = 0; i < 8; ++i)
     {
@@ -185,7 +188,7 @@ protected:
             munmap(m_room, kRoom);
     }
 
-    /// A fresh stretch of memory, with a huge page beginning at its third quarter page; none without huge pages.
+    /// A fresh stretch of memory, nothing of it advised; none where the system has no huge pages.
     static char* Reserve()
     {
         void* const room = mmap(nullptr, kRoom, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);

@@ -20,6 +20,16 @@ TEST(UnpackXpm, GivesEachPixelTheColourOfItsKey)
     EXPECT_THAT(grid.pixels, ElementsAre(0xFF000000, 0xFF010203, 0xFFFFFE00, 0xFF010203, 0xFF000000, 0xFF000000));
 }
 
+TEST(UnpackXpm, TellsKeysApartByEveryCharacter)
+{
+    const char* const xpm[] = {"12 1 4 3",      "  ~ c #000001", " !  c #000002",
+                               " ~~ c #000003", "!   c #000004", "!    ~ !  ~~ ~~ !   ~  ~!    ~ !  ~~"};
+    const render::PixelGrid grid = render::UnpackXpm(xpm);
+    EXPECT_EQ(wxSize(grid.width, grid.height), wxSize(12, 1));
+    EXPECT_THAT(grid.pixels, ElementsAre(0xFF000004, 0xFF000001, 0xFF000002, 0xFF000003, 0xFF000003, 0xFF000002,
+                                         0xFF000001, 0xFF000001, 0xFF000004, 0xFF000001, 0xFF000002, 0xFF000003));
+}
+
 TEST(UnpackXpm, ReadsTheBuiltInWorldAsTheToolkitDoes)
 {
     const render::PixelGrid grid = render::UnpackXpm(world_xpm);

@@ -54,6 +54,15 @@ protected:
     }
 };
 
+TEST_F(GridLinesTest, AreThoseOfTheThreeGrids)
+{
+    const auto numbers = [](const render::GridSpec& grid)
+    { return std::array{grid.lonFrom, grid.lonTo, grid.lonStep, grid.latFrom, grid.latTo, grid.latStep}; };
+    EXPECT_EQ(numbers(render::kMeridianGrid), (std::array{-180, 180, 15, -75, 75, 15}));
+    EXPECT_EQ(numbers(render::kFieldGrid), (std::array{-180, 180, 20, -90, 90, 10}));
+    EXPECT_EQ(numbers(render::kSquareGrid), (std::array{-180, 180, 2, -84, 84, 1}));
+}
+
 TEST_F(GridLinesTest, LieWhereMeridiansAndParallelsAre)
 {
     struct Centre
