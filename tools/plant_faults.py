@@ -140,6 +140,7 @@ class Tree:
 
     def __init__(self, place, room):
         self.place, self.room, self.build = place, room, place / "build"
+        self.marker = place / "planted.txt"
         self.noticed_by = ""
         for name in COPIED:
             source = ROOT / name
@@ -149,8 +150,9 @@ class Tree:
             elif source.exists():
                 shutil.copy2(source, place / name)
         # A run that was ended may have left a fault in what is compiled.
-        for file in (place / room).rglob("*.*"):
-            file.touch()
+        left = pathlib.Path(self.marker.read_text()) if self.marker.exists() else self.marker
+        if left.exists():
+            left.touch()
         subprocess.run(["cmake", "-S", place, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=", "-DKAV_TESTS=ON",
                         "-DKAV_PRECOMPILE_ROOMS=ON", "-DCMAKE_CXX_FLAGS=-O1"], check=True, stdout=subprocess.DEVNULL)
 
@@ -226,6 +228,7 @@ def main():
     while planted < options.count and time.monotonic() < end_time:
         kind, file, text, start, end, new = planter.draw()
         try:
+            tree.marker.write_text(str(file))
             file.write_text(text[:start] + new + text[end:])
             if not tree.compiles(f"kav_{options.room}") or not tree.compiles("kavmap"):
                 continue
@@ -234,6 +237,7 @@ def main():
             found = tree.notices()
         finally:
             file.write_text(text)
+            tree.marker.unlink()
         planted += 1
         noticed += found
         what = describe(place, kind, file, text, start, end, new)
