@@ -149,8 +149,11 @@ TEST_F(FrameLayoutTest, FillsTheWindowWithTheCanvasWhateverItsSize)
     EXPECT_EQ(item->GetFlag(), wxEXPAND);
     for (const wxSize& size : {wxSize(900, 700), wxSize(640, 420)})
     {
-        frame->SetClientSize(size);
-        EXPECT_TRUE(Await([&] { return Canvas().GetSize() == size; })) << Canvas().GetSize().x;
+        frame->SetSize(size);
+        EXPECT_TRUE(Await([&] { return frame->GetSize() == size && Canvas().GetSize() == frame->GetClientSize(); }))
+            << Canvas().GetSize().x << " x " << Canvas().GetSize().y;
+        EXPECT_GT(Canvas().GetSize().x, size.x - 20);
+        EXPECT_GT(Canvas().GetSize().y, size.y / 2);
         EXPECT_EQ(Canvas().GetPosition(), wxPoint(0, 0));
     }
 }
