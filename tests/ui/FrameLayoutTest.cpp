@@ -143,6 +143,7 @@ TEST_F(FrameLayoutTest, ScrollsTheCanvasByFivePixels)
 
 TEST_F(FrameLayoutTest, FillsTheWindowWithTheCanvasWhateverItsSize)
 {
+    ASSERT_TRUE(frame->GetSizer());
     const auto* const item = frame->GetSizer()->GetItem(&Canvas());
     ASSERT_TRUE(item);
     EXPECT_EQ(item->GetProportion(), 1);
