@@ -250,29 +250,6 @@ TEST_F(ProgramTest, GivesVoacaplNothingToReadWhateverItReadsItself)
     }
 }
 
-TEST_F(ProgramTest, WritesAndReadsNumbersWithAPointInAnyLocale)
-{
-    // A locale with a decimal comma, of this test's own.
-    const std::string locales = home.Path("locales").utf8_string();
-    wxFileName::Mkdir(home.Path("locales"));
-    if (std::system(("localedef -i da_DK -f UTF-8 " + locales + "/da_DK.UTF-8 >/dev/null 2>&1").c_str()) != 0)
-        GTEST_SKIP() << "there are no sources of locales";
-    home.Write("bin/voacapl", "#!/bin/sh\ncp \"$2/areadata/default/kavdex.voa\" \"$HOME/input.txt\"\nexit 1\n");
-    wxFileName(home.Path("bin/voacapl")).SetPermissions(0700);
-    wxFileName::Mkdir(home.Path("data/areadata/default"), 0700, wxPATH_MKDIR_FULL);
-    home.Write("own.ini", "Size=100\n[Center\\ pos]\nLat=-33.5\nLon=151.25\nLoc=QF56PM\n[Propagation]\nShow=1\nDir=" +
-                              home.Path("data").utf8_string() + "\n");
-    const std::string path = "PATH=" + home.Path("bin").utf8_string() + ":$PATH ";
-    const auto input = [&](const std::string& environment)
-    {
-        EXPECT_EQ(Run("-s own.ini -t 2026-06-21T12:00 -r a.png", path + environment), 2);
-        return home.Read("input.txt");
-    };
-    const std::string expected = input("");
-    EXPECT_THAT(expected, HasSubstr("33.50S"));
-    EXPECT_EQ(input("LOCPATH=" + locales + " LC_ALL=da_DK.UTF-8"), expected);
-}
-
 TEST_F(ProgramTest, DrawsTheSmallestMap)
 {
     home.Write("tiny.ini", "Size=100\nZoom=100\n[Compass]\nFont=Sans 99\n");
