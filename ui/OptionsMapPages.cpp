@@ -135,7 +135,7 @@ BordersPage::BordersPage(wxBookCtrlBase* book)
         row.lines = NewLineRow(panel);
         AddCells(grid, {row.lines.show, row.lines.colour, row.lines.alpha, row.lines.lineWidth});
         row.file = NewFile(panel, "pnt files (*.pnt)|*.pnt|All files(*.*)|*.*");
-        grid->Add(row.file, 0, wxEXPAND);
+        grid->Add(row.file, wxSizerFlags().Expand());
     }
     FinishPage(panel, grid);
 }
@@ -175,7 +175,7 @@ SourceMapPage::SourceMapPage(wxBookCtrlBase* book)
         row.show = NewCheck(panel);
         AddCells(grid, {row.show});
         row.file = NewFile(panel, "*.*");
-        grid->Add(row.file, 0, wxEXPAND);
+        grid->Add(row.file, wxSizerFlags().Expand());
     }
     content->Add(NewLabel(panel, "Built-in map: Natural Earth\nThis is used if no other is checked."), 0, wxBOTTOM,
                  3 * kGap);

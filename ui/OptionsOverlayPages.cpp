@@ -155,8 +155,8 @@ HomePage::HomePage(wxBookCtrlBase* book)
     longitude = NewPositionRow(panel, grid, "Longitude", "Decimal (E+ / W-)", "E/W", kEastWest);
     wxStaticText* const name = NewLabel(panel, "Locator");
     locator = NewText(panel, 10);
-    grid->Add(name, 0, wxALIGN_CENTRE_VERTICAL);
-    grid->Add(locator, 0, wxEXPAND);
+    AddCells(grid, {name});
+    grid->Add(locator, wxSizerFlags().Expand());
 
     auto* const buttons = new wxBoxSizer(wxHORIZONTAL);
     content->Add(buttons, 0, wxBOTTOM, 4 * kGap);

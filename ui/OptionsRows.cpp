@@ -161,13 +161,13 @@ wxFlexGridSizer* NewGrid(int columns)
 void AddCells(wxSizer* grid, std::initializer_list<wxWindow*> controls)
 {
     for (wxWindow* const control : controls)
-        grid->Add(control, 0, wxALIGN_CENTRE_VERTICAL);
+        grid->Add(control, wxSizerFlags().CentreVertical());
 }
 
 void AddHeadings(wxWindow* parent, wxSizer* grid, std::initializer_list<const char*> headings)
 {
     for (const char* const heading : headings)
-        grid->Add(NewLabel(parent, heading), 0, wxALIGN_BOTTOM);
+        grid->Add(NewLabel(parent, heading), wxSizerFlags().Bottom());
 }
 
 wxSizer* Labelled(wxWindow* label, wxWindow* control, int proportion)

@@ -102,6 +102,14 @@ TEST(CommandLine, KnowsItsOptionsByTheirNames)
     EXPECT_EQ(ui::ParseCommandLine(0, nullptr).exitStatus, std::nullopt);
 }
 
+TEST(CommandLine, KeepsNothingOfALineBefore)
+{
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(Parse({"-xh"}).exitStatus, 1);
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(Parse({}).exitStatus, std::nullopt);
+}
+
 TEST(CommandLine, TakesNoPipeForSettings)
 {
     const TemporaryHome home;

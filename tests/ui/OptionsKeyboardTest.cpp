@@ -101,6 +101,20 @@ TEST_F(ScreenOptionsKeyboard, EnterIsOkFromTheExplanation)
     EXPECT_EQ(PressIn(dialog->m_voacapPage.appearance.explanation, WXK_RETURN), wxID_OK);
 }
 
+TEST_F(ScreenOptionsKeyboard, EnterOfTheNumberPadIsOkFromTheExplanation)
+{
+    dialog->m_book->SetSelection(6);
+    dialog->m_voacapPage.book->SetSelection(1);
+    EXPECT_EQ(PressIn(dialog->m_voacapPage.appearance.explanation, WXK_NUMPAD_ENTER), wxID_OK);
+}
+
+TEST_F(ScreenOptionsKeyboard, EscapeIsCancelFromTheExplanation)
+{
+    dialog->m_book->SetSelection(6);
+    dialog->m_voacapPage.book->SetSelection(1);
+    EXPECT_EQ(PressIn(dialog->m_voacapPage.appearance.explanation, WXK_ESCAPE), wxID_CANCEL);
+}
+
 TEST_F(ScreenOptionsKeyboard, EscapeIsCancel)
 {
     Type(dialog->m_settingsPage.size, "123");

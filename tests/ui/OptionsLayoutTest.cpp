@@ -386,6 +386,9 @@ TEST_F(OptionsLayout, OfTheAppearanceOfThePropagation)
     EXPECT_EQ(GapToTheLeft(page.alpha), 6);
     for (const wxWindow* const window : Windows{page.autoLevel, page.greyScale, label, page.legend})
         EXPECT_EQ(window->GetRect().x, page.explanation->GetRect().x) << Name(window);
+    const wxWindow* const group = page.explanation->GetParent();
+    EXPECT_EQ(group->GetPosition(), wxPoint(12, 12)); // it fills the page
+    EXPECT_EQ(group->GetParent()->GetClientSize() - group->GetSize(), wxSize(24, 24));
     auto* const plain = new wxRadioBox(dialog, wxID_ANY, page.parameter->GetLabel(), wxDefaultPosition, wxDefaultSize,
                                        page.parameter->GetStrings(), 1, wxRA_SPECIFY_COLS);
     EXPECT_EQ(page.parameter->GetSize().x, plain->GetBestSize().x + 24); // room for the title

@@ -1,11 +1,11 @@
 #include "render/Style.h"
 #include "tests/support/OptionsFixture.h"
 #include "tests/support/Pictures.h"
-#include "ui/Choices.h"
 #include "ui/SquaresPreview.h"
 
 #include <gmock/gmock.h>
 
+#include <wx/dcclient.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 
@@ -239,9 +239,12 @@ TEST_F(OptionsPages, WarnWhereVoacaplReadsFewerDigits)
     const ui::VoacapMainPage& main = dialog->m_voacapPage.main;
     const ui::VoacapAntennaPage& antenna = dialog->m_voacapPage.antenna;
     EXPECT_EQ(main.ssn->GetToolTipText(), "voacapl reads two digits:\n120 counts as 12.");
-    for (const wxTextCtrl* field :
-         {main.systemVariables[1], main.systemVariables[2], antenna.receiver.gain, antenna.receiver.direction})
-        EXPECT_TRUE(field->GetToolTipText().Contains("voacapl")) << field->GetToolTipText();
+    EXPECT_EQ(main.systemVariables[1]->GetToolTipText(),
+              "Below 10; from there on voacapl\nreads the fields after it wrongly.");
+    EXPECT_EQ(main.systemVariables[2]->GetToolTipText(),
+              "Below 100; from there on voacapl\nreads the fields after it wrongly.");
+    EXPECT_EQ(antenna.receiver.gain->GetToolTipText(), "0 to 9.9; otherwise voacapl\nreads the direction wrongly.");
+    EXPECT_EQ(antenna.receiver.direction->GetToolTipText(), "voacapl reads two digits:\n270 counts as 27.");
     for (const wxTextCtrl* field : {main.systemVariables[0], antenna.transmitter.gain, antenna.transmitter.direction})
         EXPECT_EQ(field->GetToolTipText(), "");
 }
@@ -294,11 +297,29 @@ TEST_F(OptionsPages, ShowTheColourScaleOfTheChosenParameter)
     Choose(page.parameter, 3);
     EXPECT_THAT(Values(), testing::ElementsAre("0.9", "0.8", "0.7", "0.6", "0.5", "0.4", "0.3", "0.2", "0.1", "0.01"));
     EXPECT_EQ(page.steps[0].colour->GetColour(), wxColour(255, 90, 90));
+}
+
+TEST_F(OptionsPages, ExplainTheParametersInTheirWords)
+{
+    const char* const texts[] = {"Could be translated to S-units. S9+10dB = -93 dBW\nS9 = -103 dBW, S8 = -109 dBW\n"
+                                 "S7 = -115 dBW, S6 = -121 dBW\nS5 = -127 dBW, S4 = -133 dBW\n"
+                                 "S3 = -139 dBW, S2 = -145 dBW\nS1 = -151 dBW",
+                                 "SNR\nMedian signal-to-noise ratio (dB)",
+                                 "The MUF is defined here as the median maximum usable\nfrequency for a given "
+                                 "ionospheric path, month,\nSSN and hour",
+                                 "Reliability\nTime availability, % time SNR exceeds required SNR\n"
+                                 "Time availability   SNR > Req SNR\n0 to 1.0 where 1.0 is 100% reliability."};
+    wxTextCtrl* const explanation = dialog->m_voacapPage.appearance.explanation;
+    wxSize largest;
     for (int i = 0; i < 4; ++i)
     {
-        Choose(page.parameter, i);
-        EXPECT_EQ(page.explanation->GetValue(), ui::kParameterExplanations[i]);
+        Choose(dialog->m_voacapPage.appearance.parameter, i);
+        EXPECT_EQ(explanation->GetValue(), texts[i]);
+        largest.IncTo(wxClientDC(explanation).GetMultiLineTextExtent(texts[i]));
     }
+    // Room for the longest of them.
+    EXPECT_EQ(explanation->GetMinSize(), largest + wxSize(24, 24));
+    EXPECT_TRUE(explanation->HasFlag(wxTE_MULTILINE) && explanation->HasFlag(wxTE_NO_VSCROLL));
 }
 
 TEST_F(OptionsPages, KeepWhatWasTypedIntoAScaleThatIsNoLongerShown)
