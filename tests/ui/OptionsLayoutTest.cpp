@@ -486,6 +486,10 @@ TEST_F(OptionsLayout, OfTheButtonsBelow)
     ExpectInLine({dialog->m_loadConfig, dialog->m_saveConfig, ok, cancel});
     EXPECT_EQ(GapToTheLeft(dialog->m_saveConfig), 6);
     EXPECT_EQ(GapToTheLeft(cancel), 6);
+    // What room is left stays free.
+    EXPECT_GT(GapToTheLeft(ok), 24);
+    EXPECT_LT(ok->GetSize().x, 2 * cancel->GetSize().x);
+    EXPECT_LT(cancel->GetSize().x, 2 * dialog->m_loadConfig->GetSize().x);
     EXPECT_EQ(GapBetween({dialog->m_book}, {ok}), 12);
     EXPECT_EQ(RightMargin(cancel), dialog->m_loadConfig->GetRect().x);
     EXPECT_EQ(RightMargin(dialog->m_book), dialog->m_loadConfig->GetRect().x);
