@@ -7,6 +7,7 @@
 #include <wx/log.h>
 
 #include <cstdlib>
+#include <memory>
 
 namespace
 {
