@@ -70,6 +70,7 @@ GUIFrame::GUIFrame(wxWindow* parent)
     SetSizer(sizer);
     CreateTools();
     BindCommands();
+    BindKeyboard();
     ui::native::AllocateSize(this);
 }
 
@@ -104,7 +105,8 @@ void GUIFrame::CreateMenus()
 void GUIFrame::CreateTools()
 {
     m_toolBar = CreateToolBar(wxTB_HORIZONTAL, ui::kIdToolBar);
-    m_locator = new wxTextCtrl(m_toolBar, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_RIGHT);
+    m_locator =
+        new wxTextCtrl(m_toolBar, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_RIGHT | wxTE_PROCESS_ENTER);
     // A little wider than a locator: all tools must fit beside it.
     m_locator->SetInitialSize(m_locator->GetSizeFromText("JO65HQ0"));
     m_toolBar->AddControl(m_locator);
@@ -137,4 +139,33 @@ void GUIFrame::BindCommands()
     Bind(wxEVT_TOOL, &GUIFrame::OnGreylineTool, this, ui::kIdGreyline);
     m_canvas->Bind(wxEVT_LEFT_DOWN, &GUIFrame::OnCanvasLeftDown, this);
     m_canvas->Bind(wxEVT_MOTION, &GUIFrame::OnCanvasMotion, this);
+}
+
+void GUIFrame::BindKeyboard()
+{
+    Bind(wxEVT_CHAR_HOOK, &GUIFrame::OnTab, this);
+    m_locator->Bind(wxEVT_TEXT_ENTER,
+                    [this](wxCommandEvent&)
+                    {
+                        wxCommandEvent create(wxEVT_TOOL, ui::kIdCreate);
+                        if (m_toolBar->GetToolEnabled(ui::kIdCreate))
+                            ProcessWindowEvent(create);
+                    });
+    // Bound after the handler of the left button, which ends the event, and so called before it.
+    m_canvas->Bind(wxEVT_LEFT_DOWN,
+                   [this](wxMouseEvent& event)
+                   {
+                       event.Skip();
+                       m_canvas->SetFocusIgnoringChildren();
+                   });
+}
+
+void GUIFrame::OnTab(wxKeyEvent& event)
+{
+    const bool back = event.GetModifiers() == wxMOD_SHIFT;
+    if (event.GetKeyCode() != WXK_TAB || (event.HasAnyModifiers() && !back))
+        return event.Skip();
+    // The canvas comes after the toolbar, and before it.
+    if (!ui::native::MoveFocusOnToolBar(m_toolBar, back ? -1 : 1))
+        m_canvas->SetFocusIgnoringChildren();
 }

@@ -46,4 +46,6 @@ private:
     void CreateMenus();
     void CreateTools();
     void BindCommands();
+    void BindKeyboard();
+    void OnTab(wxKeyEvent& event); ///< from the locator field through the enabled tools to the canvas
 };

@@ -12,26 +12,28 @@ MapCanvas::MapCanvas(wxWindow* parent, wxWindowID id, const wxPoint& position, c
     SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     ui::native::ReportEveryMotion(this);
     Bind(wxEVT_PAINT, &MapCanvas::OnPaint, this);
+    Bind(wxEVT_KEY_DOWN, &MapCanvas::OnKey, this);
 }
 
 void MapCanvas::MakeRoomFor(int mapSize)
 {
+    m_cross.Hide();
     if (mapSize == m_mapSize)
         return;
     m_mapSize = mapSize;
     SetVirtualSize(mapSize, mapSize);
-    ShowStation();
+    ScrollIntoMiddle(wxPoint(mapSize / 2, mapSize / 2));
     // The scroll bars that the map needs come a little later and take some of the view.
-    CallAfter(&MapCanvas::ShowStation);
+    CallAfter(&MapCanvas::ScrollIntoMiddle, wxPoint(mapSize / 2, mapSize / 2));
 }
 
-void MapCanvas::ShowStation()
+void MapCanvas::ScrollIntoMiddle(wxPoint pixel)
 {
     const wxSize view = GetClientSize();
     int stepX = 1;
     int stepY = 1;
     GetScrollPixelsPerUnit(&stepX, &stepY);
-    Scroll((m_mapSize - view.x) / 2 / stepX, (m_mapSize - view.y) / 2 / stepY);
+    Scroll((pixel.x - view.x / 2) / stepX, (pixel.y - view.y / 2) / stepY);
 }
 
 void MapCanvas::ShowPicture()
@@ -47,4 +49,23 @@ void MapCanvas::OnPaint(wxPaintEvent&)
     dc.Clear();
     DoPrepareDC(dc);
     Draw(dc);
+    m_cross.Draw(dc);
+}
+
+void MapCanvas::OnKey(wxKeyEvent& event)
+{
+    if (!mapBitmap || !m_cross.Move(event, m_mapSize))
+        return event.Skip();
+    ScrollToCross();
+    ShowPicture();
+    if (onCross)
+        onCross(*m_cross.Place());
+}
+
+void MapCanvas::ScrollToCross()
+{
+    const wxPoint seen = CalcScrolledPosition(*m_cross.Place());
+    if (wxRect(GetClientSize()).Contains(seen))
+        return;
+    ScrollIntoMiddle(*m_cross.Place());
 }

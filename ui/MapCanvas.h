@@ -1,11 +1,15 @@
 #pragma once
 
 #include "render/MapPicture.h"
+#include "ui/MapCross.h"
 
 #include <wx/panel.h>
 #include <wx/scrolwin.h>
 
-/// The scrolled panel that shows a map picture: the map, over it the greyline, over that the propagation overlay.
+#include <functional>
+
+/// The scrolled panel that shows a map picture: the map, over it the greyline, over that the propagation overlay; and,
+/// where the keyboard asks for it, a cross that is no part of the picture.
 class MapCanvas : public wxScrolled<wxPanel>, public MapPicture
 {
 public:
@@ -19,9 +23,15 @@ public:
     /// Shows the picture as it is now, at once.
     void ShowPicture();
 
+    /// Told where on the map the keyboard has moved the cross; nobody by default.
+    std::function<void(const wxPoint& pixel)> onCross;
+
 private:
-    void ShowStation();
+    void ScrollIntoMiddle(wxPoint pixel);
+    void OnKey(wxKeyEvent& event);
+    void ScrollToCross();
     void OnPaint(wxPaintEvent& event);
 
     int m_mapSize = 0; ///< that there is room for
+    MapCross m_cross;
 };

@@ -3,6 +3,7 @@
 #include "config/DataFile.h"
 #include "render/Style.h"
 #include "ui/Ids.h"
+#include "ui/Native.h"
 
 #include <wx/dcmemory.h>
 #include <wx/log.h>
@@ -152,6 +153,7 @@ void WxKavFrame::FinishCreation()
 {
     m_layer.reset();
     ShowStep("Finished...");
+    ui::native::Announce(m_statusBar, "Finished...");
     m_canvas->mapReady = true;
     EnableCreationTools(true);
     m_toolBar->EnableTool(ui::kIdGreyline, true);

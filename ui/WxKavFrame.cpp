@@ -4,6 +4,7 @@
 #include "render/PictureFile.h"
 #include "ui/Ids.h"
 #include "ui/KavMapOptions.h"
+#include "ui/Native.h"
 
 #include <wx/filedlg.h>
 #include <wx/filefn.h>
@@ -30,6 +31,11 @@ WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings
         wxEVT_TIMER, [this](wxTimerEvent&) { DrawGreyline(); }, ui::kIdGreylineTimer);
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { DrawPropagation(false); }, ui::kIdPropagationTimer);
+    m_canvas->onCross = [this](const wxPoint& pixel)
+    {
+        ShowReadOut(pixel);
+        ui::native::Announce(m_statusBar, GetStatusBar()->GetStatusText(0));
+    };
     m_canvas->mapReady = true;
 }
 
@@ -42,6 +48,7 @@ void WxKavFrame::ShowStep(const wxString& text)
 
 void WxKavFrame::ShowError(const wxString& text)
 {
+    ui::native::Announce(m_statusBar, text);
     wxMessageBox(text, "Error", wxOK | wxICON_ERROR, this);
 }
 
@@ -98,9 +105,13 @@ void WxKavFrame::OnAbout(wxCommandEvent&)
 
 void WxKavFrame::OnCanvasMotion(wxMouseEvent& event)
 {
+    ShowReadOut(m_canvas->CalcUnscrolledPosition(event.GetPosition()));
+}
+
+void WxKavFrame::ShowReadOut(const wxPoint& pixel)
+{
     if (!m_view)
         return;
-    const wxPoint pixel = m_canvas->CalcUnscrolledPosition(event.GetPosition());
     const geo::MapPoint point = m_view->frame.PixelToMap(pixel.x, pixel.y);
     const auto [distanceKm, bearingDeg] = geo::RangeAndBearingOf(point);
     if (static_cast<double>(m_view->frame.mapRadius / 1000) <= distanceKm)

@@ -94,7 +94,8 @@ private:
     void ShowError(const wxString& text);
     bool HasMap() const { return m_view && m_canvas->mapBitmap; }
     wxString DefaultPictureName() const;
-    void ResetOverlays(); ///< hides them and stops following the clock: the settings have changed
+    void ShowReadOut(const wxPoint& pixel); ///< of a pixel of the map
+    void ResetOverlays();                   ///< hides them and stops following the clock: the settings have changed
 
     // Creating a map, in this order.
     void TakeCentreFromLocatorField();
