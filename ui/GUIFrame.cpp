@@ -33,27 +33,28 @@ struct Tool
     const char* label;
     wxItemKind kind;
     const char* const* icon;
+    const char* name; ///< for screen readers, and in the menu of tools that have no room
 };
 
 constexpr Tool kTools[] = {
-    {ui::kIdCreate, "Create", wxITEM_NORMAL, icon_create},
-    {ui::kIdSave, "Save", wxITEM_NORMAL, icon_save},
-    {ui::kIdOptions, "Options", wxITEM_NORMAL, icon_options},
-    {ui::kIdHelp, "Help", wxITEM_NORMAL, icon_help},
-    {ui::kIdFirstFrequency, "tool", wxITEM_RADIO, icon_fq_3_5},
-    {ui::kIdFirstFrequency + 1, "tool", wxITEM_RADIO, icon_fq_7_0},
-    {ui::kIdFirstFrequency + 2, "tool", wxITEM_RADIO, icon_fq_10_1},
-    {ui::kIdFirstFrequency + 3, "tool", wxITEM_RADIO, icon_fq_14_0},
-    {ui::kIdFirstFrequency + 4, "tool", wxITEM_RADIO, icon_fq_18_1},
-    {ui::kIdFirstFrequency + 5, "tool", wxITEM_RADIO, icon_fq_21_0},
-    {ui::kIdFirstFrequency + 6, "tool", wxITEM_RADIO, icon_fq_24_9},
-    {ui::kIdFirstFrequency + 7, "tool", wxITEM_RADIO, icon_fq_28_0},
-    {ui::kIdLastFrequency, "tool", wxITEM_RADIO, icon_fq_user},
-    {ui::kIdParameterSdbw, "tool", wxITEM_RADIO, icon_signal},
-    {ui::kIdParameterSnr, "tool", wxITEM_RADIO, icon_snr},
-    {ui::kIdParameterMuf, "tool", wxITEM_RADIO, icon_muf},
-    {ui::kIdParameterRel, "tool", wxITEM_RADIO, icon_rel},
-    {ui::kIdGreyline, "tool", wxITEM_CHECK, icon_greyline},
+    {ui::kIdCreate, "Create", wxITEM_NORMAL, icon_create, "Create"},
+    {ui::kIdSave, "Save", wxITEM_NORMAL, icon_save, "Save"},
+    {ui::kIdOptions, "Options", wxITEM_NORMAL, icon_options, "Options"},
+    {ui::kIdHelp, "Help", wxITEM_NORMAL, icon_help, "Help"},
+    {ui::kIdFirstFrequency, "tool", wxITEM_RADIO, icon_fq_3_5, "3.5 MHz"},
+    {ui::kIdFirstFrequency + 1, "tool", wxITEM_RADIO, icon_fq_7_0, "7.0 MHz"},
+    {ui::kIdFirstFrequency + 2, "tool", wxITEM_RADIO, icon_fq_10_1, "10.1 MHz"},
+    {ui::kIdFirstFrequency + 3, "tool", wxITEM_RADIO, icon_fq_14_0, "14.0 MHz"},
+    {ui::kIdFirstFrequency + 4, "tool", wxITEM_RADIO, icon_fq_18_1, "18.1 MHz"},
+    {ui::kIdFirstFrequency + 5, "tool", wxITEM_RADIO, icon_fq_21_0, "21.0 MHz"},
+    {ui::kIdFirstFrequency + 6, "tool", wxITEM_RADIO, icon_fq_24_9, "24.9 MHz"},
+    {ui::kIdFirstFrequency + 7, "tool", wxITEM_RADIO, icon_fq_28_0, "28 MHz"},
+    {ui::kIdLastFrequency, "tool", wxITEM_RADIO, icon_fq_user, "User frequency"},
+    {ui::kIdParameterSdbw, "tool", wxITEM_RADIO, icon_signal, "Signal power (SDBW)"},
+    {ui::kIdParameterSnr, "tool", wxITEM_RADIO, icon_snr, "Signal-to-noise ratio (SNR)"},
+    {ui::kIdParameterMuf, "tool", wxITEM_RADIO, icon_muf, "Maximum usable frequency (MUF)"},
+    {ui::kIdParameterRel, "tool", wxITEM_RADIO, icon_rel, "Reliability (Rel)"},
+    {ui::kIdGreyline, "tool", wxITEM_CHECK, icon_greyline, "Greyline"},
 };
 } // namespace
 
@@ -118,6 +119,9 @@ void GUIFrame::CreateTools()
         m_toolBar->AddTool(tool.id, tool.label, wxBitmap(tool.icon), wxNullBitmap, tool.kind);
     }
     m_toolBar->Realize();
+    for (const Tool& tool : kTools)
+        ui::native::NameTool(m_toolBar, tool.id, tool.name);
+    ui::native::Name(m_locator, "Locator of the station");
 }
 
 void GUIFrame::BindCommands()

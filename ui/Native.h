@@ -20,4 +20,18 @@ bool MoveFocusOnToolBar(wxToolBar* bar, int step);
 
 /// Has screen readers say something now.
 void Announce(wxWindow* window, const wxString& text);
+
+/// Names what is inside a window, for screen readers: the control itself or the parts of it that take keys.
+void Name(wxWindow* window, const wxString& name);
+
+/// Names a tool, in words of more use than its label: to screen readers, and in the menu of tools that have no room.
+void NameTool(wxToolBar* bar, int id, const wxString& name);
+
+/**
+ * Has every text in a window label what it belongs to, for screen readers.
+ *
+ * The toolkit takes each text for the label of whatever was made after it. That is kept where the control has no name
+ * yet, which it then gets, or one that begins with the text.
+ */
+void FinishLabels(wxWindow* window);
 } // namespace ui::native

@@ -34,6 +34,7 @@ Options::Options(wxWindow* parent)
     SetSizer(content);
     ChooseSize();
     BindEvents();
+    NameControls();
     // Else the focus would be on a page of the inner notebook, where nobody sees it and no key does anything.
     m_book->SetFocus();
 }

@@ -55,5 +55,6 @@ protected:
 private:
     void CreateButtons();
     void BindEvents();
+    void NameControls(); ///< for screen readers
     void ChooseSize();
 };
