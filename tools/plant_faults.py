@@ -187,9 +187,12 @@ class Tree:
 
     def notices(self):
         """The tests of the room first: they are quick, and most faults end there."""
-        if self.compiles(f"tests_{self.room}") and self.fails("-L", f"^{self.room}$"):
+        if self.fails("-L", f"^{self.room}$"):
             return True
-        return self.compiles("all") and self.fails("-LE", f"^{self.room}$")
+        if not self.compiles("all"):
+            self.noticed_by = "the compiler"
+            return True
+        return self.fails("-LE", f"^{self.room}$")
 
 
 def with_display():
@@ -230,7 +233,7 @@ def main():
         try:
             tree.marker.write_text(str(file))
             file.write_text(text[:start] + new + text[end:])
-            if not tree.compiles(f"kav_{options.room}") or not tree.compiles("kavmap"):
+            if not tree.compiles(f"kav_{options.room}", f"tests_{options.room}", "kavmap"):
                 continue
             if tree.program() == unchanged:
                 continue

@@ -221,6 +221,9 @@ TEST_F(PropagationPictureTest, HasALegendInTheFontOfTheCompass)
     {
         Vary(random);
         settings.propagation.parameter = i % 4;
+        settings.propagation.greyScale = 0;
+        for (long& colour : settings.propagation.scales[static_cast<std::size_t>(i % 4)].colours)
+            colour |= 0xA0A0A0; // light, so that the texts are black everywhere
         SCOPED_TRACE(testing::Message() << "size " << settings.size << ", parameter " << i % 4 << ", font "
                                         << settings.compass.text.font);
         const int side = static_cast<int>(settings.size);

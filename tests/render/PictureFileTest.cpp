@@ -157,7 +157,7 @@ TEST_F(PictureFileTest, IsReportedWhereItCannotBeBegun)
     const wxString path = home.Path("no such directory/a.png");
     EXPECT_FALSE(render::SavePicture(Motley(), path));
     ASSERT_EQ(log.lines.size(), 1u);
-    EXPECT_TRUE(Says(log.lines[0], "Couldn't write the picture " + path));
+    EXPECT_TRUE(Says(log.lines[0], "Couldn't write the picture " + path + ": No such file or directory"));
 }
 
 TEST_F(PictureFileTest, IsReportedWhereThereIsNoPictureForLackOfMemory)
@@ -174,7 +174,7 @@ TEST_F(PictureFileTest, LeavesADirectoryInItsPlaceAlone)
     wxFileName::Mkdir(home.Path("a.png"));
     EXPECT_FALSE(render::SavePicture(Motley(), home.Path("a.png")));
     ASSERT_FALSE(log.lines.empty());
-    EXPECT_TRUE(Says(log.lines.back(), "Couldn't write the picture " + home.Path("a.png")));
+    EXPECT_TRUE(Says(log.lines.back(), "Couldn't write the picture " + home.Path("a.png") + ": it is a directory"));
     EXPECT_TRUE(wxDirExists(home.Path("a.png")));
     EXPECT_TRUE(Files().empty()) << Files()[0];
 }
@@ -216,7 +216,7 @@ TEST_F(PictureFileTest, LeavesTheOlderOneAloneWhenItCannotBeFinished)
                 EXPECT_FALSE(render::SavePicture(Motley(), home.Path(name))) << name << ", " << room;
             }
             ASSERT_FALSE(log.lines.empty()) << name;
-            EXPECT_TRUE(Says(log.lines.back(), "Couldn't write the picture " + home.Path(name)));
+            EXPECT_TRUE(Says(log.lines.back(), "Couldn't write the picture " + home.Path(name) + ": File too large"));
             EXPECT_EQ(home.Read(name), "old");
         }
     }

@@ -86,7 +86,7 @@ TEST(CommandLine, SaysWhatWasWrong)
         Parse(words);
         return testing::internal::GetCapturedStderr();
     };
-    EXPECT_EQ(said({"-s", "/no/such/file"}), "kavmap: can't read the settings file /no/such/file\n");
+    EXPECT_EQ(said({"-s", "/no/such/file"}), "kavmap: can't read the settings file /no/such/file: No such file or directory\n");
     EXPECT_EQ(said({"-t", "noon"}), "kavmap: not a UTC time like 2026-03-20T12:30: noon\n");
     EXPECT_EQ(said({"-r", "a.png", "stray", "other"}), "kavmap: unexpected argument: stray\n");
     EXPECT_EQ(said({"--nonsense"}), "kavmap: unrecognized option '--nonsense'\n");

@@ -96,6 +96,7 @@ TEST_F(ScreenMapTest, IsShownScrolled)
 {
     settings->size = 1500;
     Create();
+    Settle(); // a new map is shown around its station
     const Colours seen = Seen();
     for (const wxPoint& scrolled : {wxPoint(0, 0), wxPoint(60, 33), wxPoint(100, 111)})
     {

@@ -26,9 +26,9 @@ protected:
                 Settle();
                 Press(key);
                 // The default button shows for a moment that it is pressed.
-                for (int i = 0; i < 200 && dialog->IsModal(); ++i)
+                for (int i = 0; i < 600 && dialog->IsModal(); ++i)
                 {
-                    wxMilliSleep(10);
+                    wxMilliSleep(50);
                     Settle();
                 }
                 if (dialog->IsModal())

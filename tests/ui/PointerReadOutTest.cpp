@@ -22,6 +22,10 @@ protected:
         settings->size = size;
         settings->compass.text.show = false;
         ClickTool(ui::kIdCreate);
+        // A new map is shown around its station; here points are counted from its corner.
+        Settle();
+        Canvas().Scroll(0, 0);
+        Settle();
     }
 };
 

@@ -153,7 +153,7 @@ TEST_F(ProgramSystemTest, LeavesAnOlderPictureAloneWhenTheDiscIsFull)
     EXPECT_EQ(Shell("bash -c 'trap \"\" XFSZ; ulimit -f 1; timeout 100 " KAVMAP_PROGRAM
                     " -s small.ini -r map.bmp' 2>err.txt </dev/null"),
               1);
-    EXPECT_THAT(Err(), testing::EndsWith("kavmap: Couldn't write the picture map.bmp\n"));
+    EXPECT_THAT(Err(), testing::EndsWith("kavmap: Couldn't write the picture map.bmp: File too large\n"));
     EXPECT_EQ(home.Read("map.bmp"), "precious");
     EXPECT_EQ(CountFilesLike("map.bmp*"), 1u);
 }

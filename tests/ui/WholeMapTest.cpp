@@ -422,12 +422,9 @@ private:
                 const std::vector<wxPoint> outline = OutlineOf(name);
                 if (outline.size() != 4)
                     continue;
-                dc.SetPen(*wxTRANSPARENT_PEN);
+                dc.SetPen(ColourOf(slot.borderColour));
                 dc.SetBrush(ColourOf(slot.fillColour));
                 dc.DrawPolygon(4, outline.data(), 0, 0, wxODDEVEN_RULE);
-                dc.SetPen(ColourOf(slot.borderColour));
-                dc.SetBrush(*wxTRANSPARENT_BRUSH);
-                dc.DrawPolygon(4, outline.data());
             }
         };
         Layer({}, LowByte(slot.alpha), [&](const auto& withDc) { withDc(squares); });
