@@ -43,6 +43,7 @@ KavMapOptions::KavMapOptions(wxWindow* parent, Configuration& settings)
     BindVoacapAntennaPage();
     BindTimePage();
     BindHomePage();
+    AddNotes();
     TransferDataToWindow();
     // Shown, the toolkit would transfer once more.
     Bind(wxEVT_INIT_DIALOG, [](wxInitDialogEvent&) {});

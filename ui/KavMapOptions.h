@@ -2,6 +2,7 @@
 
 #include "config/Configuration.h"
 #include "ui/ControlBindings.h"
+#include "ui/FieldNotes.h"
 #include "ui/Options.h"
 #include "ui/PositionFields.h"
 #include "ui/ScaleEditor.h"
@@ -68,10 +69,19 @@ private:
     void BindText(const ui::TextStyleRow& row, TextStyle& text);
     void BindAntenna(const ui::AntennaGroup& group, AntennaSettings& antenna);
 
+    // What is said beside the fields, in OptionsNotes.cpp.
+    void AddNotes();
+    void NoteBeside(wxWindow* control, wxTextCtrl* field, ui::FieldNotes::Rule rule);
+    void AddFileNotes();
+    void AddNumberNotes();
+    void AddPlaceNote();
+    void EnableTimeFields(); ///< in real time they would do nothing
+
     Configuration& m_settings;
     ui::ControlBindings m_bindings;
     ui::ScaleEditor m_scales;
     ui::PositionFields m_latitude;
     ui::PositionFields m_longitude;
+    ui::FieldNotes m_notes;
     Values m_valuesAtOpening;
 };

@@ -27,6 +27,7 @@ Options::Options(wxWindow* parent)
       m_timePage(m_book),
       m_homePage(m_book)
 {
+    ExplainNumbers();
     m_group->Add(m_book, 1, wxEXPAND | wxALL, ui::kGap);
     CreateButtons();
     auto* const content = new wxBoxSizer(wxVERTICAL);
@@ -64,6 +65,7 @@ void Options::ChooseSize()
     size.DecTo(screen - kDecorations);
     SetClientSize(size);
     Layout();
+    CentreOnParent();
     // A page gets its true size when the dialog is shown; until then the inner notebook must not be without any.
     m_voacapPage.book->GetParent()->SetSize(m_book->GetSize());
 }

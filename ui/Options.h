@@ -55,6 +55,7 @@ protected:
 private:
     void CreateButtons();
     void BindEvents();
+    void ExplainNumbers(); ///< their units and ranges
     void NameControls(); ///< for screen readers
     void ChooseSize();
 };

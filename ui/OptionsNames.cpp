@@ -33,7 +33,7 @@ void NameAntenna(const ui::AntennaGroup& antenna, const wxString& group)
 {
     Name(antenna.gain, "Gain (dBi) or Design fq (MHz): " + group);
     Name(antenna.direction, "Direction (degs): " + group);
-    Name(antenna.file, group + ": File");
+    Name(antenna.file, "Antenna file: " + group);
 }
 
 void NamePosition(const ui::PositionRow& row, const wxString& axis, const wxString& hemispheres)

@@ -1,8 +1,10 @@
 #include "ui/Choices.h"
+#include "ui/Guide.h"
 #include "ui/OptionsRows.h"
 
 #include <wx/button.h>
 #include <wx/statbox.h>
+#include <wx/stdpaths.h>
 #include <wx/valtext.h>
 
 namespace
@@ -164,7 +166,7 @@ HomePage::HomePage(wxBookCtrlBase* book)
     buttons->Add(latLonFromLocator, 0, wxRIGHT, kGap);
     locatorFromLatLon = new wxButton(panel, wxID_ANY, "Loc from Lat/Lon");
     buttons->Add(locatorFromLatLon);
-    link = NewLink(panel, "Kavdex Homepage", "https://kavmap.example/README");
+    link = NewLink(panel, "Kavdex Homepage", GuideAddress(wxStandardPaths::Get().GetExecutablePath()));
     content->Add(link);
     FinishPage(panel, content);
 }

@@ -5,9 +5,12 @@
 #include <wx/log.h>
 #include <wx/utils.h>
 
+#include <algorithm>
+
 namespace
 {
-constexpr int kFontButtonWidth = 150; // whatever the name of the font: the button shortens it
+constexpr int kFontButtonWidth = 150;     ///< at least
+constexpr int kFontButtonDecoration = 50; ///< beside the name of the font and its size
 
 /// A file picker whose browsing dialog is made when it is asked for. The toolkit's own makes one at once: with sixteen
 /// of them the options dialog would take its time to open.
@@ -106,7 +109,9 @@ wxColourPickerCtrl* NewColour(wxWindow* parent)
 wxFontPickerCtrl* NewFont(wxWindow* parent)
 {
     auto* const font = new wxFontPickerCtrl(parent, wxID_ANY);
-    font->SetMinSize(wxSize(kFontButtonWidth, -1));
+    // Whatever the name of the font: a button shortens one that is longer than most.
+    const int usual = font->GetTextExtent("Verdana Bold").x + font->GetTextExtent("20").x + kFontButtonDecoration;
+    font->SetMinSize(wxSize(std::max(kFontButtonWidth, usual), -1));
     return font;
 }
 

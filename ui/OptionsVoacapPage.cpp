@@ -86,6 +86,8 @@ AntennaGroup AddAntenna(wxWindow* page, wxSizer* content, const char* label)
     antenna.gain = AddField(box, grid, "Gain (dBi) or\nDesign fq (MHz)");
     antenna.direction = AddField(box, grid, "Direction (degs)");
     group->Add(grid, 0, wxALL | wxALIGN_CENTRE_VERTICAL, kGap);
+    wxStaticText* const name = NewLabel(box, "Antenna file");
+    group->Add(name, 0, wxLEFT | wxALIGN_CENTRE_VERTICAL, kGap);
     antenna.file = NewFile(box, "*.*");
     group->Add(antenna.file, 1, wxALL | wxALIGN_CENTRE_VERTICAL, kGap);
     return antenna;
