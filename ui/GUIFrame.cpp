@@ -147,6 +147,7 @@ void GUIFrame::BindCommands()
 
 void GUIFrame::BindKeyboard()
 {
+    m_locator->SetFocus();
     Bind(wxEVT_CHAR_HOOK, &GUIFrame::OnTab, this);
     m_locator->Bind(wxEVT_TEXT_ENTER,
                     [this](wxCommandEvent&)

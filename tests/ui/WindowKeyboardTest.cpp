@@ -80,6 +80,11 @@ TEST_F(ScreenWindowKeyboard, EnterInTheLocatorFieldCreates)
     EXPECT_EQ(settings->centreLoc, "KP20LL");
 }
 
+TEST_F(ScreenWindowKeyboard, BeginsInTheLocatorField)
+{
+    EXPECT_EQ(Focus(), "field");
+}
+
 TEST_F(ScreenWindowKeyboard, TabGoesFromTheFieldThroughTheEnabledToolsToTheCanvas)
 {
     LocatorField().SetFocus();

@@ -1,0 +1,180 @@
+#include "tests/support/TemporaryHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <wx/utils.h>
+
+#include <cstdio>
+#include <fcntl.h>
+#include <memory>
+#include <signal.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// Last, for they define words like None and Bool.
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+#include <X11/keysym.h>
+
+namespace
+{
+/// Waits for something to become true, half a minute at most.
+template <class Condition>
+bool Await(Condition condition)
+{
+    for (int i = 0; i < 600; ++i, wxMilliSleep(50))
+        if (condition())
+            return true;
+    return false;
+}
+
+/// A keyboard on the display of the tests, and what it sees there.
+class Keyboard
+{
+public:
+    Keyboard() : m_display(XOpenDisplay(nullptr), XCloseDisplay)
+    {
+        // Windows may vanish while they are asked.
+        XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+    }
+
+    bool IsOk() const { return m_display != nullptr; }
+
+    void Press(KeySym key, KeySym modifier = NoSymbol)
+    {
+        Send(modifier, True);
+        Send(key, True);
+        Send(key, False);
+        Send(modifier, False);
+        XSync(m_display.get(), False);
+    }
+
+    /// The window whose keys these are.
+    Window Focus()
+    {
+        Window focus = None;
+        int revert = 0;
+        XGetInputFocus(m_display.get(), &focus, &revert);
+        return focus;
+    }
+
+    /// The window with a title in which the focus is; None if it has none.
+    Window FocusedWindow(std::string& title)
+    {
+        for (Window window = Focus(); window > PointerRoot;)
+        {
+            char* name = nullptr;
+            XFetchName(m_display.get(), window, &name);
+            const std::unique_ptr<char, decltype(&XFree)> owner(name, XFree);
+            if (name && *name)
+            {
+                title = name;
+                return window;
+            }
+            Window root = None;
+            Window parent = None;
+            Window* children = nullptr;
+            unsigned count = 0;
+            if (XQueryTree(m_display.get(), window, &root, &parent, &children, &count) == 0)
+                return None;
+            XFree(children);
+            window = parent == root ? None : parent;
+        }
+        return None;
+    }
+
+    /// Whether the middle of a window shows something that is not white.
+    bool ShowsAMap(Window window)
+    {
+        XWindowAttributes size{};
+        if (XGetWindowAttributes(m_display.get(), window, &size) == 0)
+            return false;
+        XImage* const pixel =
+            XGetImage(m_display.get(), window, size.width / 2, size.height / 2, 1, 1, AllPlanes, ZPixmap);
+        const bool isWhite = !pixel || (XGetPixel(pixel, 0, 0) & 0xffffff) == 0xffffff;
+        if (pixel)
+            XDestroyImage(pixel);
+        return !isWhite;
+    }
+
+private:
+    void Send(KeySym key, Bool down)
+    {
+        if (key != NoSymbol)
+            XTestFakeKeyEvent(m_display.get(), XKeysymToKeycode(m_display.get(), key), down, CurrentTime);
+    }
+
+    std::unique_ptr<Display, decltype(&XCloseDisplay)> m_display;
+};
+
+const char kTitle[] = "Kavmap V3.1.9 Linux QQ0QQQ";
+
+/// The program, and what it writes to standard error.
+class Program
+{
+public:
+    explicit Program(const std::string& errors) : m_process(fork())
+    {
+        if (m_process != 0)
+            return;
+        dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
+        execl(KAVMAP_PROGRAM, "kavmap", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    ~Program()
+    {
+        if (!HasEnded())
+        {
+            kill(m_process, SIGKILL);
+            waitpid(m_process, nullptr, 0);
+        }
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    bool HasEnded()
+    {
+        m_hasEnded = m_hasEnded || waitpid(m_process, nullptr, WNOHANG) == m_process;
+        return m_hasEnded;
+    }
+
+private:
+    pid_t m_process;
+    bool m_hasEnded = false;
+};
+
+TEST(ScreenProgramQuiet, SaysNothingToTheTerminalFromStartToEnd)
+{
+    const TemporaryHome home;
+    Keyboard keyboard;
+    ASSERT_TRUE(keyboard.IsOk());
+    Program program(home.Path("err.txt").utf8_string());
+    std::string title;
+    Window window = None;
+    const auto isMain = [&] { return (window = keyboard.FocusedWindow(title)) != None && title == kTitle; };
+    ASSERT_TRUE(Await(isMain));
+
+    keyboard.Press(XK_Return); // in the locator field: creates
+    ASSERT_TRUE(Await([&] { return isMain() && keyboard.ShowsAMap(window); }));
+
+    keyboard.Press(XK_o, XK_Alt_L); // menu "Options"
+    keyboard.Press(XK_Return);      // its one entry, "Properties"
+    ASSERT_TRUE(Await([&] { return keyboard.Focus() > PointerRoot && !isMain(); }));
+    // The dialog may not listen yet.
+    ASSERT_TRUE(Await(
+        [&]
+        {
+            if (!isMain())
+                keyboard.Press(XK_Return); // OK
+            return isMain();
+        }));
+    EXPECT_NE(home.Read(".Kavdex").find("Zoom=20000"), std::string::npos);
+
+    keyboard.Press(XK_F4, XK_Alt_L);
+    EXPECT_TRUE(Await([&] { return program.HasEnded(); }));
+    EXPECT_EQ(home.Read("err.txt"), "");
+}
+} // namespace
