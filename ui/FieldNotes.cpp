@@ -33,11 +33,12 @@ wxStaticText* NewTextBeside(wxWindow* control, const wxString& text)
     wxSizer* const sizer = control->GetContainingSizer();
     const std::size_t index = IndexIn(sizer, control);
     const wxSizerItem& old = *sizer->GetItem(index);
-    const bool grows = old.GetProportion() > 0 || (old.GetFlag() & wxEXPAND) != 0;
+    const bool expands = (old.GetFlag() & wxEXPAND) != 0;
+    const bool grows = old.GetProportion() > 0 || expands;
     auto both = std::make_unique<wxBoxSizer>(wxHORIZONTAL);
     auto item = std::make_unique<wxSizerItem>(both.get(), old.GetProportion(), old.GetFlag(), old.GetBorder(), nullptr);
     sizer->Replace(index, item.release());
-    both->Add(control, grows ? 1 : 0, wxALIGN_CENTRE_VERTICAL);
+    both->Add(control, grows ? 1 : 0, expands ? int{wxEXPAND} : int{wxALIGN_CENTRE_VERTICAL});
     both->Add(words, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT, kGap);
     both.release();
     return words;

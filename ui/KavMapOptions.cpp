@@ -2,6 +2,7 @@
 
 #include "config/SettingsFile.h"
 #include "render/Style.h"
+#include "ui/Native.h"
 #include "ui/SquaresPreview.h"
 
 #include <wx/filedlg.h>
@@ -44,6 +45,7 @@ KavMapOptions::KavMapOptions(wxWindow* parent, Configuration& settings)
     BindTimePage();
     BindHomePage();
     AddNotes();
+    ui::native::FinishLabels(this); // with everything made that can be labelled
     TransferDataToWindow();
     // Shown, the toolkit would transfer once more.
     Bind(wxEVT_INIT_DIALOG, [](wxInitDialogEvent&) {});

@@ -24,7 +24,12 @@ void MapCanvas::MakeRoomFor(int mapSize)
     SetVirtualSize(mapSize, mapSize);
     ScrollIntoMiddle(wxPoint(mapSize / 2, mapSize / 2));
     // The scroll bars that the map needs come a little later and take some of the view.
-    CallAfter(&MapCanvas::ScrollIntoMiddle, wxPoint(mapSize / 2, mapSize / 2));
+    CallAfter(
+        [this, mapSize, view = GetViewStart()]
+        {
+            if (GetViewStart() == view)
+                ScrollIntoMiddle(wxPoint(mapSize / 2, mapSize / 2));
+        });
 }
 
 void MapCanvas::ScrollIntoMiddle(wxPoint pixel)

@@ -111,5 +111,4 @@ void Options::NameControls()
     Name(m_timePage.date, "Date");
     NamePosition(m_homePage.latitude, "Latitude", "N/S");
     NamePosition(m_homePage.longitude, "Longitude", "E/W");
-    ui::native::FinishLabels(this);
 }

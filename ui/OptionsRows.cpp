@@ -36,10 +36,11 @@ protected:
     }
 };
 
-/// The toolkit would drop a path of more than 512 characters.
-void AllowAnyLength(wxPickerBase* picker)
+/// The toolkit would drop a path of more than 512 characters, and the lower part of a large font.
+void MakeRoom(wxPickerBase* picker)
 {
     picker->GetTextCtrl()->SetMaxLength(0);
+    picker->SetMinSize(wxSize(-1, picker->GetTextCtrl()->GetBestSize().y));
 }
 
 void OpenAddress(wxHyperlinkEvent& event)
@@ -119,7 +120,9 @@ wxTextCtrl* NewText(wxWindow* parent, int digits, const wxString& text)
 {
     auto* const field = new wxTextCtrl(parent, wxID_ANY, text);
     const wxString widest('0', static_cast<std::size_t>(digits));
-    field->SetMinSize(field->GetSizeFromTextSize(field->GetTextExtent(widest).x));
+    wxSize size = field->GetSizeFromTextSize(field->GetTextExtent(widest).x);
+    size.y = std::max(size.y, field->GetBestSize().y); // which grows with the font
+    field->SetMinSize(size);
     return field;
 }
 
@@ -128,7 +131,7 @@ wxFilePickerCtrl* NewFile(wxWindow* parent, const wxString& wildcard, long style
     auto* const picker = new FilePicker;
     picker->Create(parent, wxID_ANY, "", "Select a file", wildcard, wxDefaultPosition, wxDefaultSize,
                    wxFLP_OPEN | wxFLP_FILE_MUST_EXIST | wxFLP_USE_TEXTCTRL | style);
-    AllowAnyLength(picker);
+    MakeRoom(picker);
     return picker;
 }
 
@@ -137,7 +140,7 @@ wxDirPickerCtrl* NewDirectory(wxWindow* parent)
     auto* const picker = new DirectoryPicker;
     picker->Create(parent, wxID_ANY, "", "Select a folder", wxDefaultPosition, wxDefaultSize,
                    wxDIRP_DIR_MUST_EXIST | wxDIRP_USE_TEXTCTRL);
-    AllowAnyLength(picker);
+    MakeRoom(picker);
     return picker;
 }
 

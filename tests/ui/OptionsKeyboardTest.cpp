@@ -125,6 +125,7 @@ TEST_F(ScreenOptionsKeyboard, EscapeIsCancel)
 TEST_F(ScreenOptionsKeyboard, TabReachesEveryControlInReadingOrder)
 {
     dialog->Show();
+    Choose(dialog->m_timePage.mode, 1); // in real time most of its page is grey
     for (std::size_t i = 0; i < dialog->m_book->GetPageCount(); ++i)
     {
         dialog->m_book->SetSelection(i);

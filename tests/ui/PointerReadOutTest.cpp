@@ -87,6 +87,7 @@ TEST_F(PointerReadOutTest, IsEmptyAtExactlyTheRim)
 TEST_F(PointerReadOutTest, IsTheSameWhereverTheCanvasIsScrolled)
 {
     Create(1500);
+    Canvas().Scroll(0, 0);
     PointAt(600, 300);
     const wxString unscrolled = Status(0);
     Canvas().Scroll(80, 40); // by 5 pixels each
