@@ -80,11 +80,13 @@ void WxKavFrame::OnQuit(wxCommandEvent&)
 
 void WxKavFrame::OnProperties(wxCommandEvent&)
 {
+    const wxString stored = m_settings->centreLoc;
     KavMapOptions dialog(this, *m_settings);
     if (dialog.ShowModal() == wxID_OK && m_settings->resetOverlays)
         ResetOverlays();
     // However it ended, a file may have been loaded; the next creation must not bring the old centre back.
-    m_locator->ChangeValue(m_settings->centreLoc);
+    if (m_settings->centreLoc != stored)
+        m_locator->ChangeValue(m_settings->centreLoc);
     m_canvas->ShowPicture();
 }
 

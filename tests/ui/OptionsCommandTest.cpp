@@ -69,15 +69,30 @@ TEST_F(OptionsCommandTest, LeavesOverlaysAloneOnCancel)
     EXPECT_NE(Status(1), "");
 }
 
-TEST_F(OptionsCommandTest, ShowsTheStoredLocatorHoweverTheDialogEnds)
+TEST_F(OptionsCommandTest, ShowsALocatorThatTheDialogHasStoredHoweverItEnds)
+{
+    for (const int end : {wxID_OK, wxID_CANCEL})
+    {
+        settings->centreLoc = "JO65HQ";
+        LocatorField().ChangeValue("AA00AA");
+        dialogs.onOtherDialog = [this, end](wxDialog&)
+        {
+            settings->centreLoc = "QF56OM";
+            return end;
+        };
+        ClickTool(ui::kIdOptions);
+        EXPECT_EQ(LocatorField().GetValue(), "QF56OM");
+    }
+}
+
+TEST_F(OptionsCommandTest, KeepsALocatorThatWasTypedAndNotYetUsed)
 {
     for (const int end : {wxID_OK, wxID_CANCEL})
     {
         answer = end;
-        settings->centreLoc = "QF56OM";
-        LocatorField().ChangeValue("AA00AA");
+        LocatorField().ChangeValue("AA00");
         ClickTool(ui::kIdOptions);
-        EXPECT_EQ(LocatorField().GetValue(), "QF56OM");
+        EXPECT_EQ(LocatorField().GetValue(), "AA00");
     }
 }
 } // namespace
