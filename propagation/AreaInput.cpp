@@ -13,6 +13,8 @@ namespace
 /// Settings may hold any number.
 constexpr int kLargestMonth = std::numeric_limits<int>::max() - 1;
 
+constexpr std::array kBands{3.5, 7.0, 10.1, 14.0, 18.1, 21.0, 24.9, 28.0};
+
 template <class Table>
 auto NearestEntry(const Table& table, int index)
 {
@@ -61,11 +63,14 @@ int GridPoints(int choice)
     return NearestEntry(kPoints, choice);
 }
 
+bool UsesOwnFrequency(const PropagationSettings& settings)
+{
+    return settings.frequency >= static_cast<int>(kBands.size());
+}
+
 double FrequencyMHz(const PropagationSettings& settings)
 {
-    static constexpr std::array kBands{3.5, 7.0, 10.1, 14.0, 18.1, 21.0, 24.9, 28.0};
-    const bool isUsersOwn = settings.frequency >= static_cast<int>(kBands.size());
-    return isUsersOwn ? NumberOf(settings.userFrequencyMHz) : NearestEntry(kBands, settings.frequency);
+    return UsesOwnFrequency(settings) ? NumberOf(settings.userFrequencyMHz) : NearestEntry(kBands, settings.frequency);
 }
 
 double TxPowerKw(int choice)

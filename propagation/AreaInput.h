@@ -23,6 +23,9 @@ AreaTime AreaTimeOf(const GreyzoneSettings& settings, const UtcTime& now);
 /// the other tables.
 int GridPoints(int choice);
 
+/// Whether the frequency is the user's own, not that of a band.
+bool UsesOwnFrequency(const PropagationSettings& settings);
+
 /// The frequency in MHz; the last choice is the user's own.
 double FrequencyMHz(const PropagationSettings& settings);
 

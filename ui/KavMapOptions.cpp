@@ -39,13 +39,14 @@ KavMapOptions::KavMapOptions(wxWindow* parent, Configuration& settings)
     BindFilePages();
     BindPlotSquaresPage();
     BindGraylinePage();
-    BindVoacapMainPage();
+    BindVoacapMainPage(m_bindings, m_settings.propagation);
     BindVoacapAppearancePage();
-    BindVoacapAntennaPage();
+    BindVoacapAntennaPage(m_bindings, m_settings.propagation);
     BindTimePage();
     BindHomePage();
     AddNotes();
     ui::native::FinishLabels(this); // with everything made that can be labelled
+    WatchVoacapInput();
     TransferDataToWindow();
     // Shown, the toolkit would transfer once more.
     Bind(wxEVT_INIT_DIALOG, [](wxInitDialogEvent&) {});
@@ -58,6 +59,7 @@ bool KavMapOptions::TransferDataToWindow()
     m_longitude.FillParts();
     ShowZoomOnSlider();
     ShowSquaresPreviews();
+    ShowNotes();
     return true;
 }
 
@@ -139,6 +141,35 @@ void KavMapOptions::ShowSquaresPreviews()
 void KavMapOptions::OnParameter(wxCommandEvent&)
 {
     m_scales.ShowChosen();
+}
+
+void KavMapOptions::WatchVoacapInput()
+{
+    BindVoacapMainPage(m_typedFields, m_typed);
+    BindVoacapAntennaPage(m_typedFields, m_typed);
+    wxWindow* const pages = m_voacapPage.book;
+    pages->Bind(wxEVT_TEXT, &KavMapOptions::OnVoacapInput, this);
+    pages->Bind(wxEVT_RADIOBOX, &KavMapOptions::OnVoacapInput, this);
+    pages->Bind(wxEVT_FILEPICKER_CHANGED, &KavMapOptions::OnVoacapInput, this);
+    pages->Bind(wxEVT_DIRPICKER_CHANGED, &KavMapOptions::OnVoacapInput, this);
+    // A picker keeps the events of its text to itself.
+    for (wxPickerBase* const picker : std::initializer_list<wxPickerBase*>{
+             m_voacapPage.main.directory, m_voacapPage.antenna.transmitter.file, m_voacapPage.antenna.receiver.file})
+        picker->GetTextCtrl()->Bind(wxEVT_TEXT, &KavMapOptions::OnVoacapInput, this);
+}
+
+void KavMapOptions::OnVoacapInput(wxCommandEvent& event)
+{
+    event.Skip();
+    ShowNotes();
+}
+
+void KavMapOptions::ShowNotes()
+{
+    m_typedFields.TransferFromWindow();
+    const auto findings = propagation::CheckInput(m_typed);
+    m_voacapPage.main.notes.Show(findings);
+    m_voacapPage.antenna.notes.Show(findings);
 }
 
 void KavMapOptions::OnNow(wxCommandEvent&)

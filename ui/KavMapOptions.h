@@ -55,19 +55,24 @@ private:
     void ShowZoomOnSlider();
     void ShowSquaresPreviews();
 
+    // What voacapl will not read as it is typed.
+    void WatchVoacapInput();
+    void OnVoacapInput(wxCommandEvent& event);
+    void ShowNotes();
+
     // One table for each page: which control edits which setting.
     void BindSettingsPage();
     void BindFilePages();
     void BindPlotSquaresPage();
     void BindGraylinePage();
-    void BindVoacapMainPage();
+    void BindVoacapMainPage(ui::ControlBindings& bindings, PropagationSettings& p);
     void BindVoacapAppearancePage();
-    void BindVoacapAntennaPage();
+    void BindVoacapAntennaPage(ui::ControlBindings& bindings, PropagationSettings& p);
     void BindTimePage();
     void BindHomePage();
     void BindLines(const ui::LineRow& row, LineStyle& lines);
     void BindText(const ui::TextStyleRow& row, TextStyle& text);
-    void BindAntenna(const ui::AntennaGroup& group, AntennaSettings& antenna);
+    static void BindAntenna(ui::ControlBindings& bindings, const ui::AntennaGroup& group, AntennaSettings& antenna);
 
     // What is said beside the fields, in OptionsNotes.cpp.
     void AddNotes();
@@ -79,6 +84,8 @@ private:
 
     Configuration& m_settings;
     ui::ControlBindings m_bindings;
+    PropagationSettings m_typed;       ///< as the pages with notes show it
+    ui::ControlBindings m_typedFields; ///< between those pages and m_typed
     ui::ScaleEditor m_scales;
     ui::PositionFields m_latitude;
     ui::PositionFields m_longitude;

@@ -18,11 +18,11 @@ void KavMapOptions::BindText(const ui::TextStyleRow& row, TextStyle& text)
     m_bindings.Bind(row.alpha, text.alpha);
 }
 
-void KavMapOptions::BindAntenna(const ui::AntennaGroup& group, AntennaSettings& antenna)
+void KavMapOptions::BindAntenna(ui::ControlBindings& bindings, const ui::AntennaGroup& group, AntennaSettings& antenna)
 {
-    m_bindings.Bind(group.gain, antenna.gain);
-    m_bindings.Bind(group.direction, antenna.directionDeg);
-    m_bindings.Bind(group.file, antenna.file);
+    bindings.Bind(group.gain, antenna.gain);
+    bindings.Bind(group.direction, antenna.directionDeg);
+    bindings.Bind(group.file, antenna.file);
 }
 
 void KavMapOptions::BindSettingsPage()
@@ -94,24 +94,23 @@ void KavMapOptions::BindGraylinePage()
     m_bindings.Bind(m_graylinePage.darkeningNight, greyzone.darkeningNight);
 }
 
-void KavMapOptions::BindVoacapMainPage()
+void KavMapOptions::BindVoacapMainPage(ui::ControlBindings& bindings, PropagationSettings& p)
 {
     const ui::VoacapMainPage& page = m_voacapPage.main;
-    PropagationSettings& p = m_settings.propagation;
-    m_bindings.Bind(page.show, p.show);
-    m_bindings.Bind(page.engine, p.engine);
-    m_bindings.Bind(page.ssn, p.sunspotNumber);
-    m_bindings.Bind(page.grid, p.grid);
-    m_bindings.Bind(page.directory, p.directory);
-    m_bindings.Bind(page.txPower, p.txPower);
-    m_bindings.Bind(page.frequency, p.frequency);
-    m_bindings.Bind(page.userFrequency, p.userFrequencyMHz);
+    bindings.Bind(page.show, p.show);
+    bindings.Bind(page.engine, p.engine);
+    bindings.Bind(page.ssn, p.sunspotNumber);
+    bindings.Bind(page.grid, p.grid);
+    bindings.Bind(page.directory, p.directory);
+    bindings.Bind(page.txPower, p.txPower);
+    bindings.Bind(page.frequency, p.frequency);
+    bindings.Bind(page.userFrequency, p.userFrequencyMHz);
     wxString* const variables[] = {&p.manMadeNoise, &p.minTakeOffAngle,         &p.requiredReliability,
                                    &p.requiredSnr,  &p.multipathPowerTolerance, &p.maxMultipathDelay};
     for (std::size_t i = 0; i < page.systemVariables.size(); ++i)
-        m_bindings.Bind(page.systemVariables[i], *variables[i]);
-    m_bindings.Bind(page.useExternalResult, p.useExternalResult);
-    m_bindings.Bind(page.externalResult, p.externalResult);
+        bindings.Bind(page.systemVariables[i], *variables[i]);
+    bindings.Bind(page.useExternalResult, p.useExternalResult);
+    bindings.Bind(page.externalResult, p.externalResult);
 }
 
 void KavMapOptions::BindVoacapAppearancePage()
@@ -126,14 +125,13 @@ void KavMapOptions::BindVoacapAppearancePage()
     m_bindings.Bind(page.legend, p.legend);
 }
 
-void KavMapOptions::BindVoacapAntennaPage()
+void KavMapOptions::BindVoacapAntennaPage(ui::ControlBindings& bindings, PropagationSettings& p)
 {
     const ui::VoacapAntennaPage& page = m_voacapPage.antenna;
-    PropagationSettings& p = m_settings.propagation;
-    BindAntenna(page.transmitter, p.transmitter);
-    BindAntenna(page.receiver, p.receiver);
+    BindAntenna(bindings, page.transmitter, p.transmitter);
+    BindAntenna(bindings, page.receiver, p.receiver);
     for (std::size_t i = 0; i < page.layerMultipliers.size(); ++i)
-        m_bindings.Bind(page.layerMultipliers[i], p.layerMultipliers[i]);
+        bindings.Bind(page.layerMultipliers[i], p.layerMultipliers[i]);
 }
 
 void KavMapOptions::BindTimePage()

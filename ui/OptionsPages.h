@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/VoacapNotes.h"
+
 #include <wx/bookctrl.h>
 #include <wx/calctrl.h>
 #include <wx/checkbox.h>
@@ -143,6 +145,7 @@ struct VoacapMainPage
     wxHyperlinkCtrl* link;
     wxCheckBox* useExternalResult;
     wxFilePickerCtrl* externalResult;
+    VoacapNotes notes;
 };
 
 struct VoacapAppearancePage
@@ -178,6 +181,7 @@ struct VoacapAntennaPage
     AntennaGroup transmitter;
     AntennaGroup receiver;
     std::array<wxTextCtrl*, 4> layerMultipliers; ///< FoE, FoF1, FoF2, FoEs
+    VoacapNotes notes;
 };
 
 /// The page with the inner notebook.

@@ -42,6 +42,7 @@ wxSizer* NewEngineRow(wxWindow* page, VoacapMainPage& controls)
     controls.ssn = AddLabelled(page, row, "SSN", [&] { return NewSpin(page, 0, 200, wxSP_WRAP); });
     controls.ssn->SetToolTip(kSsnTip);
     controls.grid = AddLabelled(page, row, "Grid", [&] { return NewChoice(page, kGrids); });
+    row->Add(controls.notes.NewBelow(page, {{"SSN", "SSN: "}}), 0, wxALIGN_CENTRE_VERTICAL | wxBOTTOM, 2 * kGap);
     return row;
 }
 
@@ -52,6 +53,7 @@ wxSizer* NewTransmitterColumn(wxWindow* page, VoacapMainPage& controls)
     controls.frequency = NewRadioBox(page, "Frequency", kFrequencies, 3);
     column->Add(controls.frequency, 0, wxBOTTOM, 2 * kGap);
     controls.userFrequency = AddLabelled(page, column, "User Fq MHz", [&] { return NewText(page, 8); });
+    column->Add(controls.notes.NewBeside(page, "UserFq"));
     return column;
 }
 
@@ -59,19 +61,24 @@ wxSizer* NewSystemVariables(wxWindow* page, VoacapMainPage& controls)
 {
     struct Field
     {
+        const char* key;
         const char* label;
         const char* tip = "";
     };
-    static constexpr Field kFields[] = {{"Man Made Noise (-dBW/Hz)"},
-                                        {"Minimum Takeoff Angle (deg)", kBelow10Tip},
-                                        {"Required Circuit Reliability (%)", kBelow100Tip},
-                                        {"Required S/N Ratio (dB)"},
-                                        {"Multipath Pwr Tolerance (dB)"},
-                                        {"Max Tolerable Multipath Delay (mS)"}};
+    static constexpr Field kFields[] = {{"MMN", "Man Made Noise (-dBW/Hz)"},
+                                        {"MTA", "Minimum Takeoff Angle (deg)", kBelow10Tip},
+                                        {"RCR", "Required Circuit Reliability (%)", kBelow100Tip},
+                                        {"RSN", "Required S/N Ratio (dB)"},
+                                        {"MPT", "Multipath Pwr Tolerance (dB)"},
+                                        {"MTM", "Max Tolerable Multipath Delay (mS)"}};
     auto* const group = new wxStaticBoxSizer(wxVERTICAL, page, "System Variables");
-    wxFlexGridSizer* const grid = NewGrid(2);
+    wxFlexGridSizer* const grid = NewGrid(3);
     for (std::size_t i = 0; i < controls.systemVariables.size(); ++i)
-        controls.systemVariables[i] = AddField(group->GetStaticBox(), grid, kFields[i].label, kFields[i].tip);
+    {
+        wxWindow* const box = group->GetStaticBox();
+        controls.systemVariables[i] = AddField(box, grid, kFields[i].label, kFields[i].tip);
+        AddCells(grid, {controls.notes.NewBeside(box, kFields[i].key)});
+    }
     group->Add(grid, 0, wxALL, kGap);
     return group;
 }
@@ -79,7 +86,7 @@ wxSizer* NewSystemVariables(wxWindow* page, VoacapMainPage& controls)
 AntennaGroup AddAntenna(wxWindow* page, wxSizer* content, const char* label)
 {
     auto* const group = new wxStaticBoxSizer(wxHORIZONTAL, page, label);
-    content->Add(group, 0, wxEXPAND | wxBOTTOM, 2 * kGap);
+    content->Add(group, 0, wxEXPAND);
     wxWindow* const box = group->GetStaticBox();
     wxFlexGridSizer* const grid = NewGrid(4);
     AntennaGroup antenna{};
@@ -126,7 +133,8 @@ VoacapMainPage::VoacapMainPage(wxBookCtrlBase* book)
     content->Add(NewEngineRow(panel, *this));
     wxStaticText* const directoryLabel = NewLabel(panel, "Icepac/Voacap directory");
     directory = NewDirectory(panel);
-    content->Add(Labelled(directoryLabel, directory, 1), 0, wxEXPAND | wxBOTTOM, 2 * kGap);
+    content->Add(Labelled(directoryLabel, directory, 1), 0, wxEXPAND);
+    content->Add(notes.NewBelow(panel, {{"Dir", ""}}), 0, wxBOTTOM, kGap);
     auto* const columns = new wxBoxSizer(wxHORIZONTAL);
     content->Add(columns, 0, wxBOTTOM, kGap);
     columns->Add(NewTransmitterColumn(panel, *this), 0, wxRIGHT, 4 * kGap);
@@ -183,7 +191,11 @@ VoacapAntennaPage::VoacapAntennaPage(wxBookCtrlBase* book)
     wxScrolledWindow* const panel = NewPage(book, "Antenna");
     auto* const content = new wxBoxSizer(wxVERTICAL);
     transmitter = AddAntenna(panel, content, "Transmitter antenna");
+    content->Add(notes.NewBelow(panel, {{"TxGain", "Gain: "}, {"Tx1Dir", "Direction: "}, {"Tx1File", "File: "}}), 0,
+                 wxBOTTOM, kGap);
     receiver = AddAntenna(panel, content, "Receiver Antenna");
+    content->Add(notes.NewBelow(panel, {{"RxGain", "Gain: "}, {"Rx1Dir", "Direction: "}, {"Rx1File", "File: "}}), 0,
+                 wxBOTTOM, kGap);
     receiver.gain->SetToolTip(kReceiverGainTip);
     receiver.direction->SetToolTip(kReceiverDirectionTip);
     auto* const group = new wxStaticBoxSizer(wxVERTICAL, panel, "Ionospheric parameters");
@@ -194,6 +206,8 @@ VoacapAntennaPage::VoacapAntennaPage(wxBookCtrlBase* book)
     group->Add(grid, 0, wxALL, kGap);
     for (std::size_t i = 0; i < layerMultipliers.size(); ++i)
         layerMultipliers[i] = AddField(box, grid, kLabels[i]);
+    content->Add(
+        notes.NewBelow(panel, {{"Fo1", "* FoE: "}, {"Fo2", "* FoF1: "}, {"Fo3", "* FoF2: "}, {"Fo4", "* FoEs: "}}));
     FinishPage(panel, content);
 }
 
