@@ -34,11 +34,12 @@ public:
     }
 
     /// As the toolkit converts texts to numbers: what is too large or too small is no number.
-    double Number() const
+    std::optional<double> Number() const
     {
         errno = 0;
-        const double number = std::strtod(m_text.data(), nullptr);
-        return errno == ERANGE ? 0.0 : number;
+        char* end = nullptr;
+        const double number = std::strtod(m_text.data(), &end);
+        return errno == ERANGE || end == m_text.data() ? std::nullopt : std::optional(number);
     }
 
     int Integer() const { return static_cast<int>(std::strtol(m_text.data(), nullptr, 10)); }
@@ -57,12 +58,15 @@ int ReadPoints(LineReader& file)
 
 void ReadValues(LineReader& file, Field field, ResultGrid& grid)
 {
+    grid.withoutValue = grid.values.size();
     for (double& value : grid.values)
     {
         const auto line = file.Next();
         if (!line || (!line->ended && line->text.size() < field.start + field.length))
             return;
-        value = FieldText(line->text, field).Number();
+        const auto number = FieldText(line->text, field).Number();
+        grid.withoutValue -= number.has_value();
+        value = number.value_or(0.0);
         grid.minimum = std::min(grid.minimum, value);
         grid.maximum = std::max(grid.maximum, value);
     }

@@ -25,6 +25,7 @@ struct ResultGrid
     std::vector<double> values; ///< from the south-west corner, longitude running fastest; both edges included
     double minimum = 999.0;     ///< of the values that were read
     double maximum = -999.0;
+    std::size_t withoutValue = 0; ///< points that have no number in the file, or no line; their value is 0
 };
 
 /**
