@@ -23,11 +23,13 @@ public:
 
 using namespace propagation;
 
-Propagation::Propagation(MapPicture& picture, const MapView& view, Configuration& settings, const ShowStep& showStep)
+Propagation::Propagation(MapPicture& picture, const MapView& view, Configuration& settings, const ShowStep& showStep,
+                         const KeepWaiting& keepWaiting)
     : m_picture(picture),
       m_view(view),
       m_settings(settings),
       m_showStep(showStep),
+      m_keepWaiting(keepWaiting),
       m_files(settings.propagation.directory)
 {
     if (isBusy)
@@ -47,8 +49,11 @@ bool Propagation::IsBusy()
 
 void Propagation::RunAndDraw()
 {
-    if (RunVoacap(m_files, m_settings, {m_view.projection.centreLatDeg, m_view.projection.centreLonDeg}, m_showStep) !=
-        0)
+    const int status = RunVoacap(m_files, m_settings, {m_view.projection.centreLatDeg, m_view.projection.centreLonDeg},
+                                 m_showStep, m_keepWaiting);
+    if (status == kAbandoned)
+        return;
+    if (status != 0)
         ShowError("Error calling VOACAP");
     // voacapl may leave an empty file behind and still end well.
     else if (wxFileName::GetSize(m_files.result) == 0)
@@ -89,4 +94,7 @@ void Propagation::Draw(const ResultGrid& result)
     }
     m_picture.propagationBitmap = std::move(overlay);
     m_picture.showPropagation = true;
+    if (result.withoutValue > 0)
+        m_warning = wxString::Format("Result not whole: %zu of %zu points lack a value and count as 0",
+                                     result.withoutValue, result.values.size());
 }

@@ -11,9 +11,8 @@
  *
  * Everything happens in the constructor: voacapl is run, its result is read (or that of another run, when the settings
  * name one), and the overlay is put into the picture and shown. Whatever fails is reported to the user and leaves the
- * picture's previous overlay in place but hidden; so does, silently, a result with too few points.
- *
- * While voacapl runs, events are handled and windows are disabled.
+ * picture's previous overlay in place but hidden; so does, silently, a result with too few points, and a run that
+ * keepWaiting has ended: who ends it says so.
  */
 class Propagation
 {
@@ -24,11 +23,14 @@ public:
      * @pre no other object is at work, see IsBusy(); a second one does nothing.
      */
     Propagation(MapPicture& picture, const MapView& view, Configuration& settings,
-                const propagation::ShowStep& showStep);
+                const propagation::ShowStep& showStep, const propagation::KeepWaiting& keepWaiting = {});
     Propagation(const Propagation&) = delete;
     Propagation& operator=(const Propagation&) = delete;
 
-    /// Whether an overlay is being made: the handler of a timer is called while voacapl runs.
+    /// What is not right about the overlay that was drawn, for the user; empty when all is well.
+    const wxString& Warning() const { return m_warning; }
+
+    /// Whether an overlay is being made: keepWaiting may handle events.
     static bool IsBusy();
 
 private:
@@ -40,5 +42,7 @@ private:
     const MapView& m_view;
     Configuration& m_settings;
     const propagation::ShowStep& m_showStep;
+    const propagation::KeepWaiting& m_keepWaiting;
     const propagation::AreaFiles m_files;
+    wxString m_warning;
 };

@@ -4,8 +4,6 @@
 #include "propagation/AreaInput.h"
 
 #include <wx/crt.h>
-#include <wx/log.h>
-#include <wx/utils.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -16,7 +14,7 @@ namespace propagation
 {
 namespace
 {
-constexpr int kFailed = -1;
+constexpr int kFailed = OutsideProgram::kNotStarted;
 constexpr int kVoacapEngine = 1;
 
 using File = std::unique_ptr<std::FILE, decltype(&std::fclose)>;
@@ -53,14 +51,12 @@ bool Remove(const wxString& path)
     return !error;
 }
 
-int Execute(const wxString& directory)
+int Execute(const wxString& directory, const KeepWaiting& keepWaiting)
 {
     const wxCharBuffer directoryBytes = directory.fn_str();
     const char* const arguments[] = {"voacapl", "-s", directoryBytes.data(), "area", "calc", "default/kavdex.voa",
                                      nullptr};
-    // The caller has a message for a program that can't be started.
-    const wxLogNull noSecondMessage;
-    return static_cast<int>(wxExecute(arguments, wxEXEC_SYNC));
+    return OutsideProgram(arguments).Wait(keepWaiting).value_or(kAbandoned);
 }
 } // namespace
 
@@ -71,7 +67,8 @@ AreaFiles::AreaFiles(const wxString& dataDirectory)
 {
 }
 
-int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep)
+int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep,
+              const KeepWaiting& keepWaiting)
 {
     const AreaTime time = AreaTimeOf(settings.greyzone, UtcNow());
     const auto antennas = NamesOfAntennas(settings.propagation);
@@ -88,6 +85,6 @@ int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon trans
         ShowError(kFileOpenError);
         return kFailed;
     }
-    return Remove(files.result) ? Execute(files.directory) : kFailed;
+    return Remove(files.result) ? Execute(files.directory, keepWaiting) : kFailed;
 }
 } // namespace propagation

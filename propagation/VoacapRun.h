@@ -3,9 +3,15 @@
 #include "config/Configuration.h"
 #include "geo/Locator.h"
 #include "propagation/Messages.h"
+#include "propagation/OutsideProgram.h"
+
+#include <limits>
 
 namespace propagation
 {
+/// In place of an exit status: voacapl was ended before it had done its work.
+inline constexpr int kAbandoned = std::numeric_limits<int>::min();
+
 /// Where an area run keeps its files, below the data directory of voacapl.
 struct AreaFiles
 {
@@ -19,15 +25,16 @@ struct AreaFiles
 /**
  * Writes the area input file and runs voacapl on it.
  *
- * Returns when voacapl has ended. Meanwhile windows repaint, but all of them are disabled, and timers go on. A result
- * of an earlier run is removed before voacapl starts, so what is there afterwards is this run's.
+ * Returns when voacapl has ended, or when keepWaiting has ended it. A result of an earlier run is removed before
+ * voacapl starts, so what is there afterwards is this run's.
  *
  * @param[in]     transmitter the centre of the map that the overlay is for, degrees; the settings may have another by
  *                            now.
  * @param[in,out] settings the engine is set to VOACAP as soon as the input file is open.
  * @return 0 when voacapl ended with exit status 0. Otherwise its exit status, or minus the signal that ended it; -1
- *         when it could not be started, or when the input could not be written. The latter has been reported to the
- *         user.
+ *         when it could not be started, or when the input could not be written, which has been reported to the user;
+ *         kAbandoned when keepWaiting has ended it.
  */
-int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep);
+int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep,
+              const KeepWaiting& keepWaiting = {});
 } // namespace propagation

@@ -1,5 +1,6 @@
 #include "ui/BatchRender.h"
 
+#include "propagation/InputRules.h"
 #include "render/PictureFile.h"
 #include "ui/WxKavFrame.h"
 
@@ -52,6 +53,20 @@ protected:
     }
 };
 
+void Warn(const wxString& text)
+{
+    std::fprintf(stderr, "kavmap: warning: %s\n", text.utf8_str().data());
+}
+
+/// Warns of what voacapl will not read as it stands in the settings.
+void WarnOfInput(const PropagationSettings& settings)
+{
+    if (!settings.show || settings.useExternalResult)
+        return;
+    for (const propagation::InputFinding& finding : propagation::CheckInput(settings))
+        Warn(wxString("Propagation/") + finding.key + ": " + finding.Text());
+}
+
 void PrintStep(const wxString& step)
 {
     if (isatty(STDERR_FILENO))
@@ -59,12 +74,22 @@ void PrintStep(const wxString& step)
 }
 } // namespace
 
-int RenderToFile(std::unique_ptr<Configuration> settings, const wxString& path)
+int RenderToFile(std::unique_ptr<Configuration> settings, const wxString& path, std::chrono::seconds voacaplLimit)
 {
     const MessageBoxes boxes;
     delete wxLog::SetActiveTarget(new LogToStandardError);
+    WarnOfInput(settings->propagation);
     auto* const frame = new WxKavFrame(nullptr, std::move(settings));
     frame->onStep = PrintStep;
+    frame->onWarning = Warn;
+    frame->keepWaiting = [voacaplLimit](std::chrono::milliseconds waited)
+    {
+        if (waited < voacaplLimit)
+            return true;
+        Report(wxString::Format("voacapl was ended after %lld s. The map has no propagation overlay.",
+                                static_cast<long long>(voacaplLimit.count())));
+        return false;
+    };
     const bool written = frame->CreateMap() && render::SavePicture(frame->TakePicture(), path);
     wxLog::FlushActive();
     const int status = !written ? 1 : messageCount > 0 ? 2 : 0;

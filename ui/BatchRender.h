@@ -2,6 +2,7 @@
 
 #include "config/Configuration.h"
 
+#include <chrono>
 #include <memory>
 
 namespace ui
@@ -12,8 +13,12 @@ namespace ui
  * Every message goes to standard error as "kavmap: " and its text, and so does the toolkit's log; the steps go there
  * when it is a terminal.
  *
- * @param[in] path ends in one of the six endings that name a format.
+ * Settings that voacapl will read otherwise than they stand there, and a result that is not whole, are warned of; a
+ * warning does not change the exit status.
+ *
+ * @param[in] path         ends in one of the six endings that name a format.
+ * @param[in] voacaplLimit after which voacapl is ended; the picture is then written without its overlay.
  * @return exit status: 0 written, 1 nothing written, 2 written although something failed.
  */
-int RenderToFile(std::unique_ptr<Configuration> settings, const wxString& path);
+int RenderToFile(std::unique_ptr<Configuration> settings, const wxString& path, std::chrono::seconds voacaplLimit);
 } // namespace ui

@@ -6,6 +6,7 @@
 #include <wx/version.h>
 
 #include <cerrno>
+#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -26,16 +27,22 @@ Draws azimuthal maps of the world as seen from a radio station.
   -r, --render PICTURE   create the map, write it to PICTURE and exit; the format
                          goes by the ending: .png .jpg .bmp .pcx .pnm .tif
   -t, --time TIME        draw for this UTC time, written YYYY-MM-DDTHH:MM
+      --voacapl-timeout SECONDS
+                         with --render: end voacapl when it takes longer (600)
 
 Exit status: 0 all went well, 1 nothing was written, 2 the picture was written but
 a layer failed.
 )";
 
 constexpr int kVersionOption = 256;
-constexpr option kOptions[] = {
-    {"help", no_argument, nullptr, 'h'},           {"version", no_argument, nullptr, kVersionOption},
-    {"settings", required_argument, nullptr, 's'}, {"render", required_argument, nullptr, 'r'},
-    {"time", required_argument, nullptr, 't'},     {nullptr, 0, nullptr, 0}};
+constexpr int kTimeoutOption = 257;
+constexpr option kOptions[] = {{"help", no_argument, nullptr, 'h'},
+                               {"version", no_argument, nullptr, kVersionOption},
+                               {"settings", required_argument, nullptr, 's'},
+                               {"render", required_argument, nullptr, 'r'},
+                               {"time", required_argument, nullptr, 't'},
+                               {"voacapl-timeout", required_argument, nullptr, kTimeoutOption},
+                               {nullptr, 0, nullptr, 0}};
 
 CommandLine Done(int status)
 {
@@ -50,6 +57,17 @@ const char* ObstacleTo(const std::string& path)
     if (access(path.c_str(), R_OK) != 0)
         return std::strerror(errno);
     return path == "/dev/null" ? nullptr : SpecialFileAt(path.c_str());
+}
+
+/// A whole number of seconds, at least one; none for anything else.
+std::optional<std::chrono::seconds> ParseSeconds(const std::string& text)
+{
+    int seconds = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, seconds);
+    if (error != std::errc() || stopped != end || seconds < 1)
+        return std::nullopt;
+    return std::chrono::seconds(seconds);
 }
 
 CommandLine WrongUse(const std::string& what)
@@ -107,6 +125,14 @@ CommandLine ParseCommandLine(int argc, char** argv)
             if (!line.time)
                 return WrongUse(std::string("not a UTC time like 2026-03-20T12:30: ") + optarg);
             break;
+        case kTimeoutOption:
+        {
+            const auto timeout = ParseSeconds(optarg);
+            if (!timeout)
+                return WrongUse(std::string("not a number of seconds: ") + optarg);
+            line.voacaplTimeout = *timeout;
+            break;
+        }
         default:
             return Done(1);
         }

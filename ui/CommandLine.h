@@ -2,6 +2,7 @@
 
 #include "config/UtcTime.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -10,10 +11,11 @@ namespace ui
 /// What the user asked for on the command line. File names are bytes as the system passed them.
 struct CommandLine
 {
-    std::optional<std::string> settings; ///< take the settings from this file
-    std::optional<std::string> render;   ///< write the map to this picture, show no window
-    std::optional<UtcTime> time;         ///< draw for this time
-    std::optional<int> exitStatus;       ///< nothing is left to do: all was printed
+    std::optional<std::string> settings;      ///< take the settings from this file
+    std::optional<std::string> render;        ///< write the map to this picture, show no window
+    std::optional<UtcTime> time;              ///< draw for this time
+    std::chrono::seconds voacaplTimeout{600}; ///< for --render: after it voacapl is ended
+    std::optional<int> exitStatus;            ///< nothing is left to do: all was printed
 };
 
 /**

@@ -77,6 +77,7 @@ void WxKavFrame::TakeCentreFromLocatorField()
 void WxKavFrame::BeginCreation()
 {
     m_canvas->mapReady = false;
+    m_warning.clear();
     ShowStep("Creating Map");
     SetStatusText("", 1);
     EnableCreationTools(false);
@@ -154,6 +155,8 @@ void WxKavFrame::FinishCreation()
     m_layer.reset();
     ShowStep("Finished...");
     ui::native::Announce(m_statusBar, "Finished...");
+    if (!m_warning.empty())
+        SetStatusText(m_warning, 0);
     m_canvas->mapReady = true;
     EnableCreationTools(true);
     m_toolBar->EnableTool(ui::kIdGreyline, true);

@@ -4,7 +4,10 @@
 #include "geo/Truncate.h"
 #include "propagation/Propagation.h"
 #include "render/Greyline.h"
+#include "ui/CommandsOff.h"
 #include "ui/Ids.h"
+
+#include <wx/evtloop.h>
 
 #include <algorithm>
 #include <limits>
@@ -14,6 +17,9 @@ namespace
 {
 constexpr int kGreylinePeriodMs = 1000;
 constexpr int kPropagationPeriodMs = 60000;
+
+/// A run of voacapl takes some seconds at most.
+constexpr std::chrono::milliseconds kShortWait(3000);
 
 /// In real time the propagation overlay follows the clock in this minute of every hour: the first after the one in
 /// which the run's hour is rounded up.
@@ -130,7 +136,38 @@ void WxKavFrame::DrawPropagation(bool selectionChanged)
     if (!HasMap() || Propagation::IsBusy() || (!selectionChanged && UtcNow().minute != kPropagationMinute))
         return;
     ShowStep("Drawing Prop...");
-    const Propagation overlay(*m_canvas, *m_view, *m_settings, [this](const wxString& step) { ShowStep(step); });
-    SetStatusText("", 0);
+    {
+        const ui::CommandsOff commandsOff(*m_toolBar, *GetMenuBar());
+        m_wait = Wait::Silent;
+        m_waitSince = UtcNow();
+        const Propagation overlay(
+            *m_canvas, *m_view, *m_settings, [this](const wxString& step) { ShowStep(step); },
+            keepWaiting ? keepWaiting : [this](auto waited) { return WaitForVoacapl(waited); });
+        m_warning = overlay.Warning();
+    }
+    const Wait wait = std::exchange(m_wait, Wait::None);
+    if (wait == Wait::Closed)
+    {
+        Destroy();
+        return;
+    }
+    if (wait == Wait::Abandoned)
+        ShowError("voacapl was ended. The map has no propagation overlay.");
+    if (!m_warning.empty() && onWarning)
+        onWarning(m_warning);
+    SetStatusText(m_warning, 0);
     m_canvas->ShowPicture();
+}
+
+bool WxKavFrame::WaitForVoacapl(std::chrono::milliseconds waited)
+{
+    if (m_wait == Wait::Silent && waited >= kShortWait)
+    {
+        m_wait = Wait::Shown;
+        ShowStep(wxString::Format("Waiting for voacapl since %02d:%02d:%02d Z; Escape ends it", m_waitSince.hour,
+                                  m_waitSince.minute, m_waitSince.second));
+    }
+    if (auto* const loop = wxEventLoopBase::GetActive())
+        loop->YieldFor(wxEVT_CATEGORY_ALL);
+    return m_wait == Wait::Silent || m_wait == Wait::Shown;
 }

@@ -60,7 +60,9 @@ bool WxKavApp::OnInit()
 
 int WxKavApp::OnRun()
 {
-    return commandLine.render ? ui::RenderToFile(ReadSettings(), FileName(*commandLine.render)) : wxApp::OnRun();
+    return commandLine.render
+               ? ui::RenderToFile(ReadSettings(), FileName(*commandLine.render), commandLine.voacaplTimeout)
+               : wxApp::OnRun();
 }
 
 std::unique_ptr<Configuration> WxKavApp::ReadSettings() const

@@ -36,6 +36,7 @@ WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings
         ShowReadOut(pixel);
         ui::native::Announce(m_statusBar, GetStatusBar()->GetStatusText(0));
     };
+    Bind(wxEVT_CHAR_HOOK, &WxKavFrame::OnKey, this);
     m_canvas->mapReady = true;
 }
 
@@ -70,12 +71,23 @@ void WxKavFrame::SetPropagationTools(bool enable, int frequencyIndex, int parame
 
 void WxKavFrame::OnClose(wxCloseEvent&)
 {
-    Destroy();
+    if (m_wait == Wait::None)
+        Destroy();
+    else
+        m_wait = Wait::Closed;
 }
 
 void WxKavFrame::OnQuit(wxCommandEvent&)
 {
-    Destroy();
+    Close(true);
+}
+
+void WxKavFrame::OnKey(wxKeyEvent& event)
+{
+    if (event.GetKeyCode() != WXK_ESCAPE || m_wait == Wait::None)
+        event.Skip();
+    else if (m_wait != Wait::Closed)
+        m_wait = Wait::Abandoned;
 }
 
 void WxKavFrame::OnProperties(wxCommandEvent&)
@@ -112,7 +124,7 @@ void WxKavFrame::OnCanvasMotion(wxMouseEvent& event)
 
 void WxKavFrame::ShowReadOut(const wxPoint& pixel)
 {
-    if (!m_view)
+    if (!m_view || m_wait != Wait::None)
         return;
     const geo::MapPoint point = m_view->frame.PixelToMap(pixel.x, pixel.y);
     const auto [distanceKm, bearingDeg] = geo::RangeAndBearingOf(point);

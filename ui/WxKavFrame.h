@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/Configuration.h"
+#include "propagation/OutsideProgram.h"
 #include "render/BaseMap.h"
 #include "render/GridLines.h"
 #include "render/Layer.h"
@@ -43,6 +44,17 @@ public:
 
     /// Told the text of every step of a creation; none by default.
     std::function<void(const wxString& step)> onStep;
+
+    /// Told what is not right about an overlay that is drawn nevertheless; the status bar says it, too.
+    std::function<void(const wxString& text)> onWarning;
+
+    /**
+     * Asked while voacapl runs; who answers false says so to the user.
+     *
+     * If there is none, the window goes on repainting and taking texts, but no commands, and after some seconds says
+     * what it waits for. Escape or closing it ends voacapl.
+     */
+    propagation::KeepWaiting keepWaiting;
 
     /**
      * Blends a layer onto a picture of the map and makes that the map: every pixel of the layer that is not white, but
@@ -125,11 +137,26 @@ private:
     bool RememberHourAngle(std::int64_t degree); ///< whether it differs from the one before
     void DrawPropagation(bool selectionChanged);
 
+    // While voacapl runs.
+    enum class Wait
+    {
+        None,
+        Silent,    ///< short so far
+        Shown,     ///< in the status bar
+        Abandoned, ///< by Escape
+        Closed     ///< and the window with it
+    };
+    bool WaitForVoacapl(std::chrono::milliseconds waited);
+    void OnKey(wxKeyEvent& event);
+
     /// Forces the next greyline to be drawn whatever degree was remembered; drawing clears it.
     bool greylineDrawn = false;
     std::optional<std::int64_t> m_hourAngleDegree; ///< for which the greyline was last drawn in real time
 
     std::unique_ptr<Configuration> m_settings;
+    Wait m_wait = Wait::None;
+    UtcTime m_waitSince{};
+    wxString m_warning;                   ///< about the propagation overlay
     std::optional<MapView> m_view;        ///< of the map on the canvas
     std::optional<render::Layer> m_layer; ///< for as long as a map is being created
 };

@@ -10,9 +10,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <wx/frame.h>
-#include <wx/timer.h>
-
 #include <fcntl.h>
 #include <filesystem>
 #include <unistd.h>
@@ -81,8 +78,9 @@ protected:
         const std::size_t before = dialogs.messages.size();
         steps.clear();
         view = render::MakeMapView(settings, 1);
-        const Propagation propagation(picture, view, settings,
-                                      [this](const wxString& step) { steps.push_back(step.utf8_string()); });
+        const Propagation propagation(
+            picture, view, settings, [this](const wxString& step) { steps.push_back(step.utf8_string()); },
+            keepWaiting);
         std::vector<std::string> texts;
         for (std::size_t i = before; i < dialogs.messages.size(); ++i)
             texts.push_back(dialogs.messages[i].text.utf8_string());
@@ -119,6 +117,7 @@ protected:
     MapPicture picture;
     MapView view;
     std::vector<std::string> steps;
+    propagation::KeepWaiting keepWaiting;
 };
 
 const char kInput[] = "voacap/areadata/default/kavdex.voa";
@@ -384,70 +383,29 @@ TEST_F(PropagationTest, BelongsToTheMapNotToTheSettings)
     EXPECT_EQ(home.Read(kInput), input);
 }
 
-/// Counts, while a run goes on, how often the window could act.
-class Watch : public wxTimer
-{
-public:
-    Watch(wxFrame& frame, std::function<void()> tick) : m_frame(frame), m_tick(std::move(tick)) { Start(50); }
-
-    int ticks = 0;
-    int ticksWithWindowEnabled = 0;
-
-private:
-    void Notify() override
-    {
-        ++ticks;
-        ticksWithWindowEnabled += m_frame.IsEnabled();
-        m_tick();
-    }
-
-    wxFrame& m_frame;
-    std::function<void()> m_tick;
-};
-
-TEST_F(PropagationTest, LetsTheWindowRepaintButTakesNoCommandsMeanwhile)
-{
-    wxFrame frame(nullptr, wxID_ANY, "main window");
-    int paints = 0;
-    frame.Bind(wxEVT_PAINT,
-               [&](wxPaintEvent& event)
-               {
-                   ++paints;
-                   event.Skip();
-               });
-    frame.Show();
-    wxTheApp->Yield();
-    paints = 0;
-    Watch watch(frame,
-                [&]
-                {
-                    frame.Refresh();
-                    if (watch.ticks >= 4 && paints >= 2)
-                        home.Write("voacap/go on", "");
-                });
-    EXPECT_THAT(Draw("waits"), IsEmpty());
-    watch.Stop();
-    EXPECT_TRUE(Exists("voacap/go on"));
-    EXPECT_EQ(watch.ticksWithWindowEnabled, 0);
-    EXPECT_TRUE(frame.IsEnabled());
-}
-
 TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)
 {
-    wxFrame frame(nullptr, wxID_ANY, "main window");
     int busy = 0;
-    Watch watch(frame,
-                [&]
-                {
-                    busy += Propagation::IsBusy();
-                    const Propagation second(picture, view, settings, [](const wxString&) { ADD_FAILURE(); });
-                    if (busy >= 4)
-                        home.Write("voacap/go on", "");
-                });
+    keepWaiting = [&](std::chrono::milliseconds)
+    {
+        busy += Propagation::IsBusy();
+        const Propagation second(picture, view, settings, [](const wxString&) { ADD_FAILURE(); });
+        if (busy >= 4)
+            home.Write("voacap/go on", "");
+        return true;
+    };
     EXPECT_THAT(Draw("waits"), IsEmpty());
-    watch.Stop();
     EXPECT_TRUE(Exists("voacap/go on"));
     EXPECT_EQ(Runs(), 1);
     EXPECT_TRUE(picture.showPropagation);
+}
+
+TEST_F(PropagationTest, HidesThePreviousOverlayOfARunThatIsEnded)
+{
+    keepWaiting = [](std::chrono::milliseconds) { return false; };
+    const wxBitmap* const previous = ShowPreviousOverlay();
+    EXPECT_THAT(Draw("hangs"), IsEmpty());
+    ExpectPreviousOverlayHidden(previous);
+    EXPECT_FALSE(Propagation::IsBusy());
 }
 } // namespace

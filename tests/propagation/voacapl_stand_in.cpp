@@ -13,6 +13,8 @@
 #include <thread>
 #include <vector>
 
+#include <unistd.h>
+
 namespace
 {
 namespace fs = std::filesystem;
@@ -120,8 +122,27 @@ void WriteResult(const fs::path& path, int points)
             std::raise(SIGKILL);
         }
         for (int column = 0; column < points; ++column)
-            file << ResultLine(row, column, points);
+        {
+            std::string text = ResultLine(row, column, points);
+            if (behaviour == "stars" && row == column)
+                text.replace(74, 6, "******");
+            file << text;
+        }
     }
+}
+
+/// Goes on for ever (two minutes, should nobody end it), with a process of its own beside it.
+void Hang(const fs::path& directory)
+{
+    const pid_t companion = fork();
+    alarm(120);
+    if (companion != 0)
+    {
+        std::ofstream(directory / "pids.new") << getpid() << ' ' << companion << '\n';
+        fs::rename(directory / "pids.new", directory / "pids.txt");
+    }
+    for (;;)
+        pause();
 }
 } // namespace
 
@@ -138,6 +159,8 @@ int main(int argc, char** argv)
     if (behaviour == "reads input")
         while (std::cin.get() != EOF)
             continue;
+    if (behaviour == "hangs")
+        Hang(directory);
     if (behaviour == "slow")
         std::this_thread::sleep_for(std::chrono::milliseconds(600));
     if (behaviour == "waits")

@@ -1,0 +1,142 @@
+#include "propagation/OutsideProgram.h"
+
+#include "tests/support/Processes.h"
+#include "tests/support/TemporaryHome.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+using propagation::OutsideProgram;
+
+class OutsideProgramTest : public testing::Test
+{
+protected:
+    static std::optional<int> Run(const char* script, const propagation::KeepWaiting& keepWaiting = {})
+    {
+        const char* const arguments[] = {"sh", "-c", script, nullptr};
+        return OutsideProgram(arguments).Wait(keepWaiting);
+    }
+
+    std::vector<pid_t> Processes() const { return ProcessesIn(home.Path("pids").utf8_string()); }
+
+    /// Runs it in a process of its own, which gets a signal once the outside program is at work.
+    void RunAndSend(const char* script, int signal, int& status)
+    {
+        const pid_t process = fork();
+        if (process == 0)
+        {
+            Run(script);
+            _exit(0);
+        }
+        EXPECT_TRUE(AwaitQuietly([&] { return Processes().size() == 2; }));
+        kill(process, signal);
+        waitpid(process, &status, 0);
+    }
+
+    const TemporaryHome home;
+};
+
+/// Two processes of one group, their numbers in a file that appears whole.
+constexpr char kTwoProcesses[] = "sleep 100 & echo $$ $! >new; mv new pids; wait";
+
+TEST_F(OutsideProgramTest, ReturnsHowItEnded)
+{
+    EXPECT_EQ(Run("exit 0"), 0);
+    EXPECT_EQ(Run("exit 7"), 7);
+    EXPECT_EQ(Run("kill -9 $$"), -9);
+}
+
+TEST_F(OutsideProgramTest, IsSilentAboutAProgramThatIsNotThere)
+{
+    const char* const arguments[] = {"no-such-program", nullptr};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(OutsideProgram(arguments).Wait({}), -1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(OutsideProgramTest, GivesItAnEmptyInput)
+{
+    home.Write("input", "text");
+    const int before = dup(STDIN_FILENO);
+    const int input = open(home.Path("input").utf8_str(), O_RDONLY);
+    dup2(input, STDIN_FILENO);
+    EXPECT_EQ(Run("test -z \"$(cat)\""), 0);
+    dup2(before, STDIN_FILENO);
+    close(input);
+    close(before);
+}
+
+TEST_F(OutsideProgramTest, PassesNoOpenFilesOn)
+{
+    const int file = open("/dev/null", O_RDONLY);
+    const int high = dup2(file, 77);
+    EXPECT_EQ(Run("test ! -e /proc/$$/fd/77"), 0);
+    close(high);
+    close(file);
+}
+
+TEST_F(OutsideProgramTest, IsEndedWithItsWholeGroup)
+{
+    std::chrono::milliseconds last(0);
+    const auto status = Run(kTwoProcesses,
+                            [&](std::chrono::milliseconds waited)
+                            {
+                                EXPECT_GE(waited, last);
+                                last = waited;
+                                return Processes().size() < 2;
+                            });
+    EXPECT_EQ(status, std::nullopt);
+    EXPECT_GT(last.count(), 0);
+    ASSERT_EQ(Processes().size(), 2u);
+    EXPECT_TRUE(HaveEnded(Processes()));
+}
+
+TEST_F(OutsideProgramTest, EndsWithThisProgramWhenThatIsToldToEnd)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT})
+    {
+        unlink(home.Path("pids").utf8_str());
+        int status = 0;
+        RunAndSend(kTwoProcesses, signal, status);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << signal;
+        EXPECT_TRUE(HaveEnded(Processes())) << signal;
+    }
+}
+
+TEST_F(OutsideProgramTest, EndsWithThisProgramWhenThatIsKilled)
+{
+    int status = 0;
+    RunAndSend("echo $$ $$ >new; mv new pids; exec sleep 100", SIGKILL, status);
+    EXPECT_TRUE(HaveEnded(Processes()));
+}
+
+TEST_F(OutsideProgramTest, LeavesTheSignalsAsTheyWere)
+{
+    const auto before = std::signal(SIGINT, SIG_IGN);
+    EXPECT_EQ(Run("exit 0",
+                  [](std::chrono::milliseconds)
+                  {
+                      raise(SIGINT); // still ignored
+                      return true;
+                  }),
+              0);
+    EXPECT_EQ(std::signal(SIGINT, before), SIG_IGN);
+    EXPECT_EQ(std::signal(SIGTERM, SIG_DFL), SIG_DFL);
+    sigset_t blocked;
+    sigprocmask(SIG_BLOCK, nullptr, &blocked);
+    EXPECT_EQ(sigismember(&blocked, SIGTERM), 0);
+}
+
+TEST_F(OutsideProgramTest, TakesSignalsAsAnyOtherProgram)
+{
+    EXPECT_EQ(Run("kill -TERM $$"), -SIGTERM);
+}
+} // namespace
