@@ -163,7 +163,7 @@ HomePage::HomePage(wxBookCtrlBase* book)
     auto* const buttons = new wxBoxSizer(wxHORIZONTAL);
     content->Add(buttons, 0, wxBOTTOM, 4 * kGap);
     latLonFromLocator = new wxButton(panel, wxID_ANY, "Lat/Lon from Loc");
-    buttons->Add(latLonFromLocator, 0, wxRIGHT, kGap);
+    buttons->Add(latLonFromLocator, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, kGap);
     locatorFromLatLon = new wxButton(panel, wxID_ANY, "Loc from Lat/Lon");
     buttons->Add(locatorFromLatLon);
     link = NewLink(panel, "Kavdex Homepage", GuideAddress(wxStandardPaths::Get().GetExecutablePath()));

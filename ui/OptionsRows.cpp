@@ -9,6 +9,7 @@
 
 namespace
 {
+constexpr int kTextPadding = 10;          ///< above and below a text in a field, together
 constexpr int kFontButtonWidth = 150;     ///< at least
 constexpr int kFontButtonDecoration = 50; ///< beside the name of the font and its size
 
@@ -36,11 +37,18 @@ protected:
     }
 };
 
+/// What a field needs for its text in any font: the toolkit's own idea of it is too low for large ones.
+int HeightFor(const wxWindow* field)
+{
+    return field->GetCharHeight() + kTextPadding;
+}
+
 /// The toolkit would drop a path of more than 512 characters, and the lower part of a large font.
 void MakeRoom(wxPickerBase* picker)
 {
     picker->GetTextCtrl()->SetMaxLength(0);
-    picker->SetMinSize(wxSize(-1, picker->GetTextCtrl()->GetBestSize().y));
+    picker->GetTextCtrl()->SetMinSize(wxSize(-1, HeightFor(picker->GetTextCtrl())));
+    picker->InvalidateBestSize();
 }
 
 void OpenAddress(wxHyperlinkEvent& event)
@@ -121,7 +129,7 @@ wxTextCtrl* NewText(wxWindow* parent, int digits, const wxString& text)
     auto* const field = new wxTextCtrl(parent, wxID_ANY, text);
     const wxString widest('0', static_cast<std::size_t>(digits));
     wxSize size = field->GetSizeFromTextSize(field->GetTextExtent(widest).x);
-    size.y = std::max(size.y, field->GetBestSize().y); // which grows with the font
+    size.y = std::max(size.y, HeightFor(field));
     field->SetMinSize(size);
     return field;
 }
