@@ -221,6 +221,7 @@ TEST_F(AccessibleOptionsTest, LabelsNothingWithTheTextOfAnother)
     EXPECT_THAT(voice.Mislabelled(), IsEmpty());
     EXPECT_THAT(voice.LabelsOf("Size of map (in pixels)"), ElementsAre("Size of map (in pixels)"));
     EXPECT_THAT(voice.LabelsOf("SSN"), ElementsAre("SSN"));
+    EXPECT_THAT(voice.LabelsOf("Antenna file: Receiver Antenna"), ElementsAre("Antenna file"));
     EXPECT_THAT(voice.LabelsOf("Borders 1: Plot"), IsEmpty());
     EXPECT_THAT(voice.LabelsOf("Meridians: Plot"), ElementsAre("Meridians"));
 }

@@ -1,6 +1,5 @@
+#include "tests/support/DesktopFont.h"
 #include "tests/support/FrameFixture.h"
-
-#include <gtk/gtk.h>
 
 namespace
 {
@@ -8,26 +7,9 @@ constexpr char kLongestReadOut[] = "lat = -88.8 / long = -178.8 / MM88MM / 18888
 constexpr char kLongestSun[] = "2028-08-28 08:08 Z | SunAz 288.888 | SunEl -88.888";
 
 /// The status bar of a window of the first size, on a desktop with a font of so many points.
-class StatusRoomTest : public FrameFixture, public testing::WithParamInterface<int>
+class StatusRoomTest : public testing::WithParamInterface<int>, public FrameFixture
 {
 protected:
-    void SetUp() override
-    {
-        SetDesktopFont(GetParam());
-        FrameFixture::SetUp();
-    }
-    void TearDown() override
-    {
-        FrameFixture::TearDown();
-        SetDesktopFont(10);
-    }
-
-    static void SetDesktopFont(int points)
-    {
-        const wxString font = wxString::Format("Sans %d", points);
-        g_object_set(gtk_settings_get_default(), "gtk-font-name", font.utf8_str().data(), nullptr);
-    }
-
     /// Whether the whole text stands in a field.
     bool HasRoom(int field) const
     {
@@ -35,6 +17,8 @@ protected:
         wxRect room;
         return bar.GetFieldRect(field, room) && bar.GetTextExtent(bar.GetStatusText(field)).x + 4 <= room.width;
     }
+
+    const DesktopFont font{GetParam()};
 };
 
 TEST_P(StatusRoomTest, IsEnoughForTheLongestReadOutAlone)
