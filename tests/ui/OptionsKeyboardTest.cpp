@@ -22,6 +22,8 @@ protected:
         return RunModal(
             [=, this]
             {
+                // The window manager gives the keys to the dialog a little later.
+                AwaitEvents([this] { return dialog->IsActive(); });
                 control->SetFocus();
                 Settle();
                 Press(key);
