@@ -56,6 +56,6 @@ private:
     void CreateButtons();
     void BindEvents();
     void ExplainNumbers(); ///< their units and ranges
-    void NameControls(); ///< for screen readers
+    void NameControls();   ///< for screen readers
     void ChooseSize();
 };

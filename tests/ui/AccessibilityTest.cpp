@@ -153,6 +153,17 @@ protected:
         auto* const bar = GTK_TOOLBAR(gtk_widget_get_ancestor(field, GTK_TYPE_TOOLBAR));
         return gtk_toolbar_get_nth_item(bar, Tools().GetToolPos(id));
     }
+
+    /// From now on keeps what is announced.
+    void Listen()
+    {
+        const auto hear =
+            +[](AtkObject*, const char* text, std::vector<std::string>* texts) { texts->push_back(text); };
+        g_signal_connect(gtk_widget_get_accessible(frame->GetStatusBar()->GetHandle()), "announcement",
+                         G_CALLBACK(hear), &said);
+    }
+
+    std::vector<std::string> said;
 };
 
 TEST_F(AccessibleFrameTest, NamesEveryToolAndTheField)
@@ -183,10 +194,7 @@ TEST_F(AccessibleFrameTest, ShowsWordsInTheMenuOfToolsThatHaveNoRoom)
 
 TEST_F(AccessibleFrameTest, AnnouncesTheEndOfACreationAndErrors)
 {
-    std::vector<std::string> said;
-    const auto hear = +[](AtkObject*, const char* text, std::vector<std::string>* texts) { texts->push_back(text); };
-    g_signal_connect(gtk_widget_get_accessible(frame->GetStatusBar()->GetHandle()), "announcement", G_CALLBACK(hear),
-                     &said);
+    Listen();
     ClickTool(ui::kIdCreate);
     EXPECT_THAT(said, ElementsAre("Finished..."));
     said.clear();
@@ -194,6 +202,17 @@ TEST_F(AccessibleFrameTest, AnnouncesTheEndOfACreationAndErrors)
     ClickTool(ui::kIdCreate);
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_THAT(said, ElementsAre(dialogs.messages[0].text.utf8_string()));
+}
+
+TEST_F(AccessibleFrameTest, AnnouncesThePlaceOfTheCross)
+{
+    ClickTool(ui::kIdCreate);
+    Listen();
+    wxKeyEvent key(wxEVT_KEY_DOWN);
+    key.m_keyCode = WXK_HOME;
+    key.SetShiftDown(true);
+    Canvas().GetEventHandler()->ProcessEvent(key);
+    EXPECT_THAT(said, ElementsAre("lat = 55.7 / long = 12.6 / JO65HQ /   0.0 km / 0.0 degs"));
 }
 
 class AccessibleOptionsTest : public OptionsFixture
