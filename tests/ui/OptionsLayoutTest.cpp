@@ -83,6 +83,14 @@ protected:
         return top - bottom;
     }
 
+    /// Of so many lines in the smaller font of notes.
+    int NoteHeight(int lines) const
+    {
+        wxStaticText note(dialog, wxID_ANY, "note");
+        note.SetFont(note.GetFont().Smaller());
+        return lines * note.GetTextExtent("note").y;
+    }
+
     static int MiddleOf(const wxWindow* window) { return 2 * RectOf(window).y + RectOf(window).height; }
 
     static std::string Name(const wxWindow* window) { return Description(const_cast<wxWindow*>(window)).utf8_string(); }
@@ -349,8 +357,10 @@ TEST_F(OptionsLayout, OfThePropagation)
     ExpectRow({{12, Text(page, "User Fq")}, {6, main.userFrequency}});
     EXPECT_EQ(GapBetween({main.show}, {main.engine, main.ssn, main.grid}), 12);
     EXPECT_EQ(GapBetween({main.engine, main.ssn, main.grid}, {main.directory}), 12);
-    EXPECT_EQ(GapBetween({main.directory}, {main.txPower}), 12);
-    EXPECT_EQ(GapBetween({main.directory}, {group}), 12);
+    // The note on the directory has its room between them.
+    const int noted = GapBetween({main.directory}, {group});
+    EXPECT_EQ(GapBetween({main.directory}, {main.txPower}), noted);
+    EXPECT_EQ(noted, NoteHeight(1) + 6);
     EXPECT_EQ(GapBetween({main.txPower}, {main.frequency}), 12);
     EXPECT_EQ(GapBetween({main.frequency}, {main.userFrequency}), 12);
     EXPECT_EQ(GapBetween({main.link}, {main.externalResult}), 12);
@@ -361,7 +371,9 @@ TEST_F(OptionsLayout, OfThePropagation)
     const char* const labels[] = {"Man", "Minimum", "Required C", "Required S", "Multipath", "Max"};
     for (std::size_t i = 0; i < 6; ++i)
         rows.push_back({Text(group, labels[i]), main.systemVariables[i]});
-    ExpectTable(rows, 12, 6);
+    for (std::size_t i = 1; i < rows.size(); ++i) // the notes beside the fields are a little higher
+        EXPECT_NEAR(GapBetween(rows[i - 1], rows[i]), 6, 2);
+    ExpectColumns(rows, 12);
     EXPECT_EQ(rows[0][0]->GetRect().x, RightMargin(main.systemVariables[0]));
 }
 
@@ -402,12 +414,12 @@ TEST_F(OptionsLayout, OfTheAntennas)
     EXPECT_EQ(groups[0]->GetPosition(), wxPoint(12, 12));
     for (const wxWindow* const group : groups)
         EXPECT_EQ(RightMargin(group), 12) << Name(group);
-    EXPECT_EQ(GapBetween({groups[0]}, {groups[1]}), 12);
-    EXPECT_EQ(GapBetween({groups[1]}, {groups[2]}), 12);
+    for (const std::size_t below : {1U, 2U}) // the notes on three fields stand between
+        EXPECT_EQ(GapBetween({groups[below - 1]}, {groups[below]}), NoteHeight(3) + 6);
     for (const auto& [group, antenna] :
          {std::pair(groups[0], antennas.transmitter), std::pair(groups[1], antennas.receiver)})
     {
-        ExpectRow({{12, antenna.gain}, {12, Text(group, "Direction")}, {12, antenna.direction}, {12, antenna.file}});
+        ExpectRow({{12, antenna.gain}, {12, Text(group, "Direction")}, {12, antenna.direction}, {6, antenna.file}});
         EXPECT_EQ(RightMargin(antenna.file), Text(group, "Gain")->GetRect().x);
     }
     const wxWindow* const box = groups[2];
