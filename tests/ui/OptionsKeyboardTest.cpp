@@ -2,6 +2,8 @@
 
 #include <wx/uiaction.h>
 
+#include <gtk/gtk.h>
+
 #include <string>
 #include <vector>
 
@@ -54,15 +56,21 @@ protected:
         return controls;
     }
 
+    /// Lists too have one, of which the toolkit knows nothing.
+    const GtkWidget* FocusedWidget() const { return gtk_window_get_focus(GTK_WINDOW(dialog->GetHandle())); }
+
     /// What Tab reaches from the tabs of a notebook on, up to the buttons below it.
     std::vector<wxWindow*> TabThrough(wxWindow* book)
     {
         std::vector<wxWindow*> reached;
+        AwaitEvents([this] { return dialog->IsActive(); });
         book->SetFocus();
         Settle();
         for (int i = 0; i < 100; ++i)
         {
+            const GtkWidget* const before = FocusedWidget();
             Press(WXK_TAB);
+            AwaitEvents([&] { return FocusedWidget() != before; });
             wxWindow* const focus = wxWindow::FindFocus();
             if (focus == dialog->m_loadConfig)
                 return reached;
