@@ -3,19 +3,22 @@
 # Tests are not optimised: compiling them takes longer than running them.
 set(kav_test_options -O0)
 
-function(kav_precompiled name)
+# kav_precompiled(NAME HEADER OPTIONS option... USES library...)
+function(kav_precompiled name header)
+  cmake_parse_arguments(precompiled "" "" "OPTIONS;USES" ${ARGN})
   add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/Precompiled.cpp)
-  target_link_libraries(${name} PRIVATE kav_wx_core GTest::gmock kav_options)
-  target_compile_options(${name} PRIVATE ${ARGN})
-  target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/Precompiled.h)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE kav_wx_core ${precompiled_USES} kav_options)
+  target_compile_options(${name} PRIVATE ${precompiled_OPTIONS})
+  target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/${header})
 endfunction()
 
 if(KAV_TESTS)
   find_package(GTest REQUIRED)
-  kav_precompiled(kav_precompiled_tests ${kav_test_options})
+  kav_precompiled(kav_precompiled_tests PrecompiledTests.h OPTIONS ${kav_test_options} USES GTest::gmock)
 endif()
 if(KAV_PRECOMPILE_ROOMS)
-  kav_precompiled(kav_precompiled_rooms)
+  kav_precompiled(kav_precompiled_rooms Precompiled.h)
 endif()
 
 # kav_use_precompiled(TARGET FROM USES library...): for a target that uses the toolkit's core library.

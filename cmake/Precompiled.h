@@ -2,9 +2,6 @@
 
 // The headers that are read beforehand, see KavRoom.cmake. Sources include what they use all the same.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <wx/wx.h>
 
 #include <wx/calctrl.h>

@@ -39,11 +39,14 @@ protected:
         return book->GetPage(page);
     }
 
-    /// In the dialog, which the window manager may still move. (Asked itself, a group leaves its title out.)
+    /// Seen from the dialog's outermost group: the dialog itself learns late when the window manager moves it. (Asked
+    /// itself, a group leaves its title out.)
     static wxRect RectOf(const wxWindow* window)
     {
         const wxWindow* const top = wxGetTopLevelParent(const_cast<wxWindow*>(window));
-        return {top->ScreenToClient(window->GetParent()->ClientToScreen(window->GetPosition())), window->GetSize()};
+        const wxWindow* const outermost = top->GetChildren().GetFirst()->GetData();
+        const wxPoint at = window->GetParent()->ClientToScreen(window->GetPosition());
+        return {at - outermost->ClientToScreen(wxPoint()), window->GetSize()};
     }
 
     /// The number-th text or group of a page that begins so.
