@@ -168,6 +168,25 @@ class Tree:
     def program(self):
         return (self.build / "bin" / f"tests_{self.room}").read_bytes()
 
+    def run_in_one_process(self, test_filter):
+        """The first test of the room that fails, crashes or hangs, if the tests run one after the other."""
+        command = [self.build / "bin" / f"tests_{self.room}", f"--gtest_filter={test_filter}", "--gtest_fail_fast"]
+        try:
+            done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace",
+                                  timeout=300)
+        except subprocess.TimeoutExpired as late:
+            return (re.findall(r"^\[ RUN      \] (\S+)", (late.stdout or b"").decode(errors="replace"), re.M) or [""])[-1]
+        if done.returncode == 0:
+            return ""
+        return (re.findall(r"^\[ RUN      \] (\S+)", done.stdout.split("[  PASSED  ]")[0], re.M) or ["the start"])[-1]
+
+    def fails_quickly(self):
+        failed = self.run_in_one_process("-Screen*")
+        if failed and self.run_in_one_process(failed):
+            self.noticed_by = failed
+            return True
+        return False
+
     def ctest(self, *options):
         done = subprocess.run(["ctest", "--test-dir", self.build, "-j2", "--stop-on-failure", "--timeout", "60", *options],
                               stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace")
@@ -190,8 +209,8 @@ class Tree:
         return bool(failed)
 
     def notices(self):
-        """The tests of the room first: they are quick, and most faults end there."""
-        if self.fails("-L", f"^{self.room}$"):
+        """The tests of the room first, in one process: most faults end there."""
+        if self.fails_quickly() or self.fails("-L", f"^{self.room}$", *(["-R", "Screen"] if self.own else [])):
             return True
         if self.own:
             return False

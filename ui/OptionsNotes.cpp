@@ -88,6 +88,7 @@ void KavMapOptions::AddFileNotes()
         note(row.file, ui::NoPicture);
     for (const ui::PlotSquaresPage::Slot& slot : m_plotSquaresPage.slots)
         note(slot.file, ui::MissingFile);
+    note(m_voacapPage.main.externalResult, ui::MissingFile);
 }
 
 void KavMapOptions::AddNumberNotes()

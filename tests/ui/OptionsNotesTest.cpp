@@ -69,6 +69,13 @@ TEST_F(OptionsNotesTest, MarkALabelFileThatIsMissingOrNone)
     EXPECT_EQ(SaidOf(file, home.Path("prose.dat")), Mark("no label file"));
 }
 
+TEST_F(OptionsNotesTest, MarkAResultThatIsMissing)
+{
+    wxFilePickerCtrl* const file = dialog->m_voacapPage.main.externalResult;
+    EXPECT_EQ(SaidOf(file, home.Path("gone.vg1")), Mark("not found"));
+    EXPECT_EQ(SaidOf(file, home.Write("there.vg1", "x")), "");
+}
+
 TEST_F(OptionsNotesTest, MarkAPictureThatIsMissingOrNone)
 {
     wxFilePickerCtrl* const file = dialog->m_sourceMapPage.rows[0].file;
