@@ -141,7 +141,7 @@ class Tree:
     def __init__(self, place, room, own):
         self.place, self.room, self.own, self.build = place, room, own, place / "build"
         self.marker = place / "planted.txt"
-        self.noticed_by = ""
+        self.noticed_by = self.failed_once = ""
         for name in COPIED:
             source = ROOT / name
             if source.is_dir():
@@ -178,10 +178,11 @@ class Tree:
             return (re.findall(r"^\[ RUN      \] (\S+)", (late.stdout or b"").decode(errors="replace"), re.M) or [""])[-1]
         if done.returncode == 0:
             return ""
-        return (re.findall(r"^\[ RUN      \] (\S+)", done.stdout.split("[  PASSED  ]")[0], re.M) or ["the start"])[-1]
+        failed = re.findall(r"^\[  FAILED  \] (\w+(?:/\w+)*\.\w+(?:/\w+)*)", done.stdout, re.M)
+        return (failed or re.findall(r"^\[ RUN      \] (\S+)", done.stdout, re.M)[-1:] or ["the start"])[0]
 
     def fails_quickly(self):
-        failed = self.run_in_one_process("-Screen*")
+        failed = self.failed_once = self.run_in_one_process("-Screen*")
         if failed and self.run_in_one_process(failed):
             self.noticed_by = failed
             return True
@@ -210,7 +211,7 @@ class Tree:
 
     def notices(self):
         """The tests of the room first, in one process: most faults end there."""
-        if self.fails_quickly() or self.fails("-L", f"^{self.room}$", *(["-R", "Screen"] if self.own else [])):
+        if self.fails_quickly() or self.fails("-L", f"^{self.room}$", *(["-R", "Screen"] if self.own and not self.failed_once else [])):
             return True
         if self.own:
             return False
