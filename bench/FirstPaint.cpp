@@ -13,9 +13,13 @@
 
 #ifdef KAV_WITH_PROGRAM
 #include "ui/MapCanvas.h"
-#include "ui/WxKavApp.h"
+#include "app/WxKavApp.h"
 
-using App = WxKavApp;
+class App : public WxKavApp
+{
+public:
+    App() : WxKavApp(app::CommandLine()) {}
+};
 using Painted = MapCanvas;
 #else
 class App : public wxApp

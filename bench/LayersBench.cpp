@@ -1,5 +1,6 @@
 #include "config/Configuration.h"
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 #include "render/BorderLines.h"
 #include "render/Compass.h"
 #include "render/GridLabels.h"

@@ -2,6 +2,8 @@
 #include "propagation/Overlay.h"
 #include "propagation/WorldGrid.h"
 #include "render/BaseMap.h"
+#include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,7 @@
 #include "config/Configuration.h"
 
 #include "config/QuietToolkit.h"
+#include "config/SettingKeys.h"
 #include "geo/Locator.h"
 
 #include <algorithm>

@@ -1,149 +1,16 @@
 #pragma once
 
-#include "config/UtcTime.h"
+#include "config/Settings.h"
 
 #include <wx/fileconf.h>
 
-#include <array>
-
-/// How the lines of a layer are drawn.
-struct LineStyle
-{
-    bool show{};
-    long colour{}; ///< R + 256 G + 65536 B, as every colour here
-    long alpha{};  ///< opacity, 0 invisible .. 255 opaque
-    long lineWidth{};
-};
-
-/// How the texts of a layer are drawn.
-struct TextStyle
-{
-    bool show{};
-    wxString font; ///< the toolkit's user-readable native font description
-    long colour{};
-    long alpha{};
-};
-
-/// A grid with names: its lines and its labels.
-struct LabelledLines : LineStyle
-{
-    TextStyle text;
-};
-
-struct CompassSettings : LabelledLines
-{
-    bool insideMap{};
-};
-
-struct RadialsSettings : LineStyle
-{
-    int every{}; ///< choice: 5, 10, 15, 30 or 45 degrees
-};
-
-struct RangeCirclesSettings : LineStyle
-{
-    long distanceKm{};
-    bool legendShow{};
-    long legendBearingDeg{};
-};
-
-struct BorderSlot : LineStyle
-{
-    wxString file;
-};
-
-struct TextSlot : TextStyle
-{
-    wxString file;
-    int align{}; ///< choice: five alignments, then the same five with a dot
-    bool avoidCollisions{};
-};
-
-struct SourceBitmapSlot
-{
-    bool show{};
-    wxString file;
-};
-
-struct PlotSquaresSlot
-{
-    bool show{};
-    wxString file;
-    int stipple{}; ///< choice: seven hatchings, 0 is solid
-    long borderColour{};
-    long fillColour{};
-    long alpha{};
-};
-
-/// The greyline, and the time that it shares with the propagation overlay.
-struct GreyzoneSettings
-{
-    bool show{};
-    long widthDeg{};
-    bool gradient{};
-    long darkeningGrey{};  ///< percent: 100 no darkening, 0 black
-    long darkeningNight{}; ///< percent
-    int timeMode{};        ///< kRealTime, kOnce; any other value draws nothing
-    UtcTime once{};        ///< the time of kOnce, its seconds always 0
-};
-
-inline constexpr int kRealTime = 0;
-inline constexpr int kOnce = 1;
-
-/// Colours and thresholds of one propagation parameter; index 0 is the lowest step.
-struct ColourScale
-{
-    static constexpr std::size_t kSteps = 10;
-    std::array<long, kSteps> colours{};
-    std::array<wxString, kSteps> values; ///< numbers as the user typed them
-};
-
-struct AntennaSettings
-{
-    wxString gain; ///< dBi, or the design frequency in MHz for an antenna file
-    wxString directionDeg;
-    wxString file;
-};
-
-/// The propagation overlay. Numbers that are kept as text stay as the user typed them.
-struct PropagationSettings
-{
-    bool show{};
-    int engine{};
-    long sunspotNumber{};
-    int grid{}; ///< choice
-    wxString directory;
-    int frequency{}; ///< choice
-    long alpha{};
-    long greyScale{};
-    int txPower{}; ///< choice
-    AntennaSettings transmitter;
-    AntennaSettings receiver;
-    bool useExternalResult{};
-    wxString externalResult;
-    wxString userFrequencyMHz;
-    wxString manMadeNoise;
-    wxString minTakeOffAngle;
-    wxString requiredReliability;
-    wxString requiredSnr;
-    wxString multipathPowerTolerance;
-    wxString maxMultipathDelay;
-    std::array<wxString, 4> layerMultipliers; ///< FoE, FoF1, FoF2, FoEs
-    long paramGrey{};                         ///< kept, not used
-    long autoLevel{};
-    long legend{};
-    long paramAlpha{};                 ///< kept, not used
-    int parameter{};                   ///< 0 SDBW, 1 SNR, 2 MUF, 3 REL
-    std::array<ColourScale, 4> scales; ///< by parameter
-};
-
 /**
- * All settings of the program, and the working settings file that keeps them between runs.
+ * The settings, and the working settings file that keeps them between runs.
  *
- * One member for each key. Settings never fail: a key that is missing or unreadable takes its default, silently.
- * Values are not range-checked here. Texts come back exactly as they were written.
+ * Settings never fail: a key that is missing or unreadable takes its default, silently. Texts come back exactly as they
+ * were written.
  */
-class Configuration : public wxFileConfig
+class Configuration : public wxFileConfig, public Settings
 {
 public:
     /// Opens the user's working file of that name and reads it with ReadAll().
@@ -165,15 +32,6 @@ public:
     void WriteAllTo(wxConfigBase& target);
 
     /**
-     * Calls visit(key, member, default) for every setting, in the order in which they stand in the file.
-     *
-     * The type of the member (double, long, int, bool, wxString) is the type of the key. The defaults of the "Once"
-     * time are the moment of the call.
-     */
-    template <class Visit>
-    void ForEachSetting(Visit visit);
-
-    /**
      * Overwrites a locator in place with that of a position in degrees.
      *
      * A position outside -90..90 and -180..180 changes nothing. The length of the text never changes: only as many
@@ -189,27 +47,6 @@ public:
      */
     static int LocatorToLatLon(double& lat, double& lon, wxString& locator);
 
-    double centreLat{}; ///< degrees, north positive
-    double centreLon{}; ///< degrees, east positive
-    wxString centreLoc;
-    long zoom{}; ///< radius of the map in kilometres
-    long size{}; ///< side of the map in pixels
-    LineStyle meridians;
-    LabelledLines fields;
-    LabelledLines squares;
-    CompassSettings compass;
-    RadialsSettings radials;
-    std::array<BorderSlot, 6> borders;
-    std::array<TextSlot, 3> texts;
-    RangeCirclesSettings rangeCircles;
-    std::array<SourceBitmapSlot, 2> sourceBitmaps;
-    std::array<PlotSquaresSlot, 2> plotSquares;
-    GreyzoneSettings greyzone;
-    PropagationSettings propagation;
-    wxString lastIniDirectory;
-
     /// Set by the options dialog when its OK changed anything: the overlays no longer fit. Not a key.
     bool resetOverlays = false;
 };
-
-#include "config/ConfigurationKeys.h"

@@ -79,7 +79,7 @@ double TxPowerKw(int choice)
     return NearestEntry(kPowers, choice);
 }
 
-wxString AreaInputText(const Configuration& settings, geo::LatLon transmitter, const AreaTime& time,
+wxString AreaInputText(const Settings& settings, geo::LatLon transmitter, const AreaTime& time,
                        const AntennaNames& antennas)
 {
     const PropagationSettings& p = settings.propagation;

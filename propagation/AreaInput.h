@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 #include "config/UtcTime.h"
 #include "geo/Locator.h"
 
@@ -46,6 +46,6 @@ struct AntennaNames
  *
  * voacapl reads fixed columns. A value that is wider than its place moves what follows it; see docs/propagation.md.
  */
-wxString AreaInputText(const Configuration& settings, geo::LatLon transmitter, const AreaTime& time,
+wxString AreaInputText(const Settings& settings, geo::LatLon transmitter, const AreaTime& time,
                        const AntennaNames& antennas);
 } // namespace propagation

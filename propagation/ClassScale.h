@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 #include "propagation/ResultReader.h"
 
 #include <wx/colour.h>

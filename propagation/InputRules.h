@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 
 #include <span>
 #include <vector>

@@ -1,18 +1,17 @@
 #pragma once
 
-#include <wx/msgdlg.h>
+#include <wx/string.h>
 
 #include <functional>
 
 namespace propagation
 {
-/// Shows the user which step is being done.
-using ShowStep = std::function<void(const wxString&)>;
+/// Whom a computation tells what it does and what went wrong.
+struct Reports
+{
+    std::function<void(const wxString&)> step;
+    std::function<void(const wxString&)> error;
+};
 
 inline constexpr char kFileOpenError[] = "File open error in Prop";
-
-inline void ShowError(const wxString& text)
-{
-    wxMessageBox(text, "Error", wxOK | wxICON_ERROR);
-}
 } // namespace propagation

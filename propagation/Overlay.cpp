@@ -3,6 +3,7 @@
 #include "geo/RowSampler.h"
 #include "propagation/WorldGrid.h"
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 
 #include <algorithm>
 

@@ -23,13 +23,13 @@ public:
 
 using namespace propagation;
 
-Propagation::Propagation(MapPicture& picture, const MapView& view, Configuration& settings, const ShowStep& showStep,
-                         const KeepWaiting& keepWaiting)
+Propagation::Propagation(MapPicture& picture, const MapView& view, Settings& settings, Reports reports,
+                         KeepWaiting keepWaiting)
     : m_picture(picture),
       m_view(view),
       m_settings(settings),
-      m_showStep(showStep),
-      m_keepWaiting(keepWaiting),
+      m_reports(std::move(reports)),
+      m_keepWaiting(std::move(keepWaiting)),
       m_files(settings.propagation.directory)
 {
     if (isBusy)
@@ -50,24 +50,24 @@ bool Propagation::IsBusy()
 void Propagation::RunAndDraw()
 {
     const int status = RunVoacap(m_files, m_settings, {m_view.projection.centreLatDeg, m_view.projection.centreLonDeg},
-                                 m_showStep, m_keepWaiting);
+                                 m_reports, m_keepWaiting);
     if (status == kAbandoned)
         return;
     if (status != 0)
-        ShowError("Error calling VOACAP");
+        m_reports.error("Error calling VOACAP");
     // voacapl may leave an empty file behind and still end well.
     else if (wxFileName::GetSize(m_files.result) == 0)
-        ShowError(kFileOpenError);
+        m_reports.error(kFileOpenError);
     else
         DrawResultIn(m_files.result);
 }
 
 void Propagation::DrawResultIn(const wxString& path)
 {
-    m_showStep("Reading file...");
+    m_reports.step("Reading file...");
     LineReader file(path);
     if (!file.IsOk())
-        ShowError(kFileOpenError);
+        m_reports.error(kFileOpenError);
     else if (const auto result = ReadResult(file, ParameterOf(m_settings.propagation.parameter)))
         Draw(*result);
 }
@@ -76,14 +76,14 @@ void Propagation::Draw(const ResultGrid& result)
 {
     const PropagationSettings& p = m_settings.propagation;
     const auto alpha = static_cast<std::uint8_t>(p.alpha & 255);
-    m_showStep("Calling Regrid...");
+    m_reports.step("Calling Regrid...");
     const ClassScale scale = ScaleOf(p, result);
     const auto classes = WorldClasses(WorldValues(result), scale);
-    m_showStep("Creating prop img...");
+    m_reports.step("Creating prop img...");
     auto overlay = DrawOverlay(m_view, classes, scale, alpha);
     if (!overlay)
     {
-        ShowError("Error creating bitmap original function Prop");
+        m_reports.error("Error creating bitmap original function Prop");
         return;
     }
     if (p.legend == 1)

@@ -22,8 +22,8 @@ public:
      * @param[in,out] settings the engine is set to VOACAP when voacapl is run.
      * @pre no other object is at work, see IsBusy(); a second one does nothing.
      */
-    Propagation(MapPicture& picture, const MapView& view, Configuration& settings,
-                const propagation::ShowStep& showStep, const propagation::KeepWaiting& keepWaiting = {});
+    Propagation(MapPicture& picture, const MapView& view, Settings& settings, propagation::Reports reports,
+                propagation::KeepWaiting keepWaiting = {});
     Propagation(const Propagation&) = delete;
     Propagation& operator=(const Propagation&) = delete;
 
@@ -40,9 +40,9 @@ private:
 
     MapPicture& m_picture;
     const MapView& m_view;
-    Configuration& m_settings;
-    const propagation::ShowStep& m_showStep;
-    const propagation::KeepWaiting& m_keepWaiting;
+    Settings& m_settings;
+    const propagation::Reports m_reports;
+    const propagation::KeepWaiting m_keepWaiting;
     const propagation::AreaFiles m_files;
     wxString m_warning;
 };

@@ -19,7 +19,7 @@ constexpr int kVoacapEngine = 1;
 
 using File = std::unique_ptr<std::FILE, decltype(&std::fclose)>;
 
-std::optional<AntennaNames> NamesOfAntennas(const PropagationSettings& settings)
+std::optional<AntennaNames> NamesOfAntennas(const PropagationSettings& settings, const Reports& reports)
 {
     AntennaNames names;
     for (const auto& [antenna, name] :
@@ -28,7 +28,7 @@ std::optional<AntennaNames> NamesOfAntennas(const PropagationSettings& settings)
         const AntennaName found = AntennaNameOf(antenna->file);
         if (!found.problem.empty())
         {
-            ShowError(found.problem);
+            reports.error(found.problem);
             return std::nullopt;
         }
         *name = found.columns;
@@ -67,22 +67,22 @@ AreaFiles::AreaFiles(const wxString& dataDirectory)
 {
 }
 
-int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep,
+int RunVoacap(const AreaFiles& files, Settings& settings, geo::LatLon transmitter, const Reports& reports,
               const KeepWaiting& keepWaiting)
 {
     const AreaTime time = AreaTimeOf(settings.greyzone, UtcNow());
-    const auto antennas = NamesOfAntennas(settings.propagation);
+    const auto antennas = NamesOfAntennas(settings.propagation, reports);
     if (!antennas)
         return kFailed;
     File input(wxFopen(files.input, "w"), &std::fclose);
     if (input)
     {
         settings.propagation.engine = kVoacapEngine;
-        showStep("Calling VoaArea...");
+        reports.step("Calling VoaArea...");
     }
     if (!input || !WriteAndClose(std::move(input), AreaInputText(settings, transmitter, time, *antennas)))
     {
-        ShowError(kFileOpenError);
+        reports.error(kFileOpenError);
         return kFailed;
     }
     return Remove(files.result) ? Execute(files.directory, keepWaiting) : kFailed;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 #include "geo/Locator.h"
 #include "propagation/Messages.h"
 #include "propagation/OutsideProgram.h"
@@ -35,6 +35,6 @@ struct AreaFiles
  *         when it could not be started, or when the input could not be written, which has been reported to the user;
  *         kAbandoned when keepWaiting has ended it.
  */
-int RunVoacap(const AreaFiles& files, Configuration& settings, geo::LatLon transmitter, const ShowStep& showStep,
+int RunVoacap(const AreaFiles& files, Settings& settings, geo::LatLon transmitter, const Reports& reports,
               const KeepWaiting& keepWaiting = {});
 } // namespace propagation

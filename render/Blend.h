@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/BitmapPixels.h"
+#include "render/Pixel.h"
 
 #include <cstdint>
 #include <span>

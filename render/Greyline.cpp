@@ -2,6 +2,7 @@
 
 #include "geo/Angles.h"
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 #include "render/Layer.h"
 
 #include <wx/dcmemory.h>

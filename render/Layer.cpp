@@ -107,10 +107,8 @@ void Layer::TakeMarks(Visit visit)
     cairo_surface_mark_dirty(m_sheet.get());
 }
 
-bool Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
+void Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
 {
-    if (!BitmapPixels::AreInPlace(map))
-        return false;
     const BitmapPixels pixels(map);
     const auto isInner = [last = m_side - 1](int place) { return place > 0 && place < last; };
     TakeMarks(
@@ -121,20 +119,6 @@ bool Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
             Argb& under = pixels.Row(y)[static_cast<std::size_t>(x)];
             under = BlendPixel(under, colour, alpha);
         });
-    return true;
-}
-
-wxImage Layer::TakeImage()
-{
-    wxImage image(m_side, m_side);
-    image.Clear(255);
-    TakeMarks(
-        [&](int x, int y, Argb colour)
-        {
-            const auto channel = [colour](int shift) { return static_cast<unsigned char>(colour >> shift); };
-            image.SetRGB(x, y, channel(16), channel(8), channel(0));
-        });
-    return image;
 }
 
 void SwitchSmoothingOff(wxDC& dc)

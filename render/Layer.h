@@ -3,7 +3,6 @@
 #include <wx/bitmap.h>
 #include <wx/colour.h>
 #include <wx/dcgraph.h>
-#include <wx/image.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -43,16 +42,8 @@ public:
      */
     wxDC& Begin(const wxColour& colour, int lineWidth);
 
-    /**
-     * Ends the layer: blends it onto the map, of the same size, and leaves the sheet blank again.
-     *
-     * @return false, with nothing done, where the pixels of the map can't be reached in place; then TakeImage() ends
-     *         the layer.
-     */
-    bool BlendOnto(wxBitmap& map, std::uint8_t alpha);
-
-    /// Ends the layer: returns it as an image, white where nothing is drawn, and leaves the sheet blank again.
-    wxImage TakeImage();
+    /// Ends the layer: blends it onto the map, of the same size, and leaves the sheet blank again.
+    void BlendOnto(wxBitmap& map, std::uint8_t alpha);
 
 private:
     template <class Visit>

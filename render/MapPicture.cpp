@@ -1,6 +1,6 @@
 #include "render/MapPicture.h"
 
-#include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 
 #include <wx/dcmemory.h>
 

@@ -21,13 +21,13 @@ std::int64_t MapRadius(long zoomKm)
     return std::clamp(zoomKm, 100L, 20000L) * 1000;
 }
 
-std::int64_t VisibleLimit(const Configuration& settings)
+std::int64_t VisibleLimit(const Settings& settings)
 {
     constexpr long kLargest = std::numeric_limits<std::int64_t>::max() / 1000;
     return settings.compass.show ? std::clamp(settings.zoom, -kLargest, kLargest) * 1000 : 20000000;
 }
 
-MapView MakeMapView(const Configuration& settings, int compassTextHeight)
+MapView MakeMapView(const Settings& settings, int compassTextHeight)
 {
     const int size = static_cast<int>(settings.size);
     MapView view;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 #include "geo/AzimuthalProjection.h"
 #include "geo/MapDisc.h"
 #include "geo/MapFrame.h"
@@ -48,7 +48,7 @@ inline constexpr long kMaxMapSize = 8000;
 std::int64_t MapRadius(long zoomKm);
 
 /// 20000000 m, or with the compass shown the "Zoom" as it stands in metres.
-std::int64_t VisibleLimit(const Configuration& settings);
+std::int64_t VisibleLimit(const Settings& settings);
 
 /**
  * The view of a new map.
@@ -57,5 +57,5 @@ std::int64_t VisibleLimit(const Configuration& settings);
  * @param[in] compassTextHeight height of the compass font in pixels; it becomes the margin when the figures are shown.
  * @pre the size lies in kMinMapSize..kMaxMapSize.
  */
-MapView MakeMapView(const Configuration& settings, int compassTextHeight);
+MapView MakeMapView(const Settings& settings, int compassTextHeight);
 } // namespace render

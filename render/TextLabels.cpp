@@ -8,7 +8,6 @@
 
 #include <wx/crt.h>
 #include <wx/log.h>
-#include <wx/msgdlg.h>
 #include <wx/tokenzr.h>
 
 namespace render
@@ -72,14 +71,8 @@ std::optional<TextLabel> ParseTextLabel(std::wstring_view line)
 
 std::optional<std::wstring> ReadLabelFile(const wxString& file)
 {
-    const auto text = [&]
-    {
-        const wxLogNull theMessageBoxSaysItAll;
-        return ReadTextFile(file);
-    }();
-    if (!text)
-        wxMessageBox("Error opening file " + file, "Error", wxOK | wxICON_ERROR);
-    return text;
+    const wxLogNull theCallerSaysIt;
+    return ReadTextFile(file);
 }
 
 void DrawTextLabels(wxDC& dc, const MapView& view, std::wstring_view text, const TextSlot& style)

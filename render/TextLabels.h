@@ -28,7 +28,7 @@ struct TextLabel
  */
 std::optional<TextLabel> ParseTextLabel(std::wstring_view line);
 
-/// The text of a label file, see ReadTextFile(). One that cannot be read gives a message box and none.
+/// The text of a label file, see ReadTextFile(); none, without a word, for one that cannot be read.
 std::optional<std::wstring> ReadLabelFile(const wxString& file);
 
 /**

@@ -1,5 +1,6 @@
 #include "ui/KavMapOptions.h"
 
+#include "config/SettingKeys.h"
 #include "config/SettingsFile.h"
 #include "render/Style.h"
 #include "ui/Native.h"

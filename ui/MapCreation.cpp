@@ -1,40 +1,30 @@
 #include "ui/WxKavFrame.h"
 
-#include "config/DataFile.h"
-#include "render/Style.h"
 #include "ui/Ids.h"
 #include "ui/Native.h"
 
-#include <wx/dcmemory.h>
-#include <wx/log.h>
-#include <wx/progdlg.h>
-#include <wx/wfstream.h>
+#include <wx/evtloop.h>
+#include <wx/msgdlg.h>
+
+#include <utility>
+
+// What the window does around the making of maps: it takes the centre from its field, shows what it is told, and
+// follows the clock afterwards.
 
 namespace
 {
-/// The picture on the screen grows by so many rows at a time.
-constexpr int kBandRows = 100;
+constexpr int kGreylinePeriodMs = 1000;
+constexpr int kPropagationPeriodMs = 60000;
 
-int MeasureCompassText(const wxString& fontDescription)
-{
-    wxBitmap pixel(1, 1);
-    wxMemoryDC dc(pixel);
-    dc.SetFont(render::FontFromSetting(fontDescription));
-    return dc.GetTextExtent("123400").y;
-}
+/// A run of voacapl takes some seconds at most.
+constexpr std::chrono::milliseconds kShortWait(3000);
 
-wxImage LoadPicture(const wxString& name)
+void FollowTimeMode(wxTimer& timer, int timeMode, int periodMs)
 {
-    // A picture that can't be loaded gets one message, the program's own.
-    const wxLogNull silent;
-    wxImage image;
-    wxFile file;
-    if (!OpenDataFile(file, name))
-        return image;
-    wxFileInputStream bytes(file);
-    wxBufferedInputStream buffered(bytes);
-    image.LoadFile(buffered);
-    return image;
+    if (timeMode == kRealTime)
+        timer.Start(periodMs);
+    else if (timeMode == kOnce)
+        timer.Stop();
 }
 } // namespace
 
@@ -46,19 +36,21 @@ void WxKavFrame::OnCreateMap(wxCommandEvent&)
 bool WxKavFrame::CreateMap()
 {
     TakeCentreFromLocatorField();
-    if (m_settings->size < render::kMinMapSize || m_settings->size > render::kMaxMapSize)
-    {
-        ShowError("Size must be between 100 and 8000 pixels.\nIt might fail with large pixel values.");
+    const Creation creation = MakeMap();
+    if (creation == Creation::Finished)
+        SayFinished();
+    if (creation != Creation::Stopped)
         EnableCreationTools(true);
-        return false;
-    }
-    BeginCreation();
-    if (!NewMap() || !DrawBaseMaps())
-        return false;
-    DrawLayers();
-    DrawOverlays();
-    FinishCreation();
-    return true;
+    if (creation == Creation::Finished)
+        FollowClock();
+    return creation == Creation::Finished;
+}
+
+void WxKavFrame::SayFinished()
+{
+    ui::native::Announce(m_statusBar, "Finished...");
+    if (!m_warning.empty())
+        SetStatusText(m_warning, 0);
 }
 
 void WxKavFrame::TakeCentreFromLocatorField()
@@ -74,91 +66,115 @@ void WxKavFrame::TakeCentreFromLocatorField()
     m_locator->ChangeValue(stored);
 }
 
-void WxKavFrame::BeginCreation()
-{
-    m_canvas->mapReady = false;
-    m_warning.clear();
-    ShowStep("Creating Map");
-    SetStatusText("", 1);
-    EnableCreationTools(false);
-    m_greylineTimer.Stop();
-    m_propagationTimer.Stop();
-    m_layer.reset();
-}
-
 void WxKavFrame::EnableCreationTools(bool enable)
 {
     for (const int id : {ui::kIdCreate, ui::kIdSave, ui::kIdOptions})
         m_toolBar->EnableTool(id, enable);
 }
 
-bool WxKavFrame::NewMap()
+void WxKavFrame::FollowClock()
 {
-    m_canvas->Clear();
-    m_view = render::MakeMapView(*m_settings, MeasureCompassText(m_settings->compass.text.font));
-    m_canvas->mapBitmap = render::NewWhiteBitmap(m_view->frame.mapSize);
-    if (!m_canvas->mapBitmap)
-    {
-        ShowError("Error creating bitmap in function OnCreateMap0");
-        return false;
-    }
-    m_canvas->mapReady = true;
-    m_canvas->MakeRoomFor(m_view->frame.mapSize);
-    return true;
-}
-
-bool WxKavFrame::DrawBaseMaps()
-{
-    bool builtIn = true;
-    for (std::size_t i = 0; i < m_settings->sourceBitmaps.size(); ++i)
-    {
-        if (!m_settings->sourceBitmaps[i].show)
-            continue;
-        const wxImage image = LoadPicture(m_settings->sourceBitmaps[i].file);
-        if (!image.IsOk())
-        {
-            ShowError(wxString::Format("Error creating bitmap in function OnCreateMap%zu", i + 1));
-            return false;
-        }
-        ReprojectBaseMap(render::WorldPicture(image));
-        builtIn = false;
-    }
-    if (builtIn)
-        ReprojectBaseMap(render::BuiltInWorld());
-    return true;
-}
-
-void WxKavFrame::ReprojectBaseMap(const render::WorldPicture& source)
-{
-    const int size = m_view->frame.mapSize;
-    const geo::RowSampler rows = render::BaseMapRows(*m_view, source);
-    std::optional<wxProgressDialog> progress;
-    if (IsShown())
-        progress.emplace("Kavdex", wxString(' ', 28) + "Creating Map" + wxString(' ', 28), size, this,
-                         wxPD_APP_MODAL | wxPD_AUTO_HIDE);
-    for (int first = 0; first < size; first += kBandRows)
-    {
-        const int end = std::min(first + kBandRows, size);
-        {
-            const render::BitmapPixels pixels(*m_canvas->mapBitmap);
-            for (int row = first; row < end; ++row)
-                rows.Row(row, pixels.Row(row));
-        }
-        if (progress)
-            progress->Update(end);
-        m_canvas->ShowPicture();
-    }
-}
-
-void WxKavFrame::FinishCreation()
-{
-    m_layer.reset();
-    ShowStep("Finished...");
-    ui::native::Announce(m_statusBar, "Finished...");
-    if (!m_warning.empty())
-        SetStatusText(m_warning, 0);
-    m_canvas->mapReady = true;
-    EnableCreationTools(true);
+    const int timeMode = m_settings->greyzone.timeMode;
+    const PropagationSettings& propagation = m_settings->propagation;
+    if (m_settings->greyzone.show)
+        FollowTimeMode(m_greylineTimer, timeMode, kGreylinePeriodMs);
+    if (propagation.show)
+        FollowTimeMode(m_propagationTimer, timeMode, kPropagationPeriodMs);
+    SetPropagationTools(propagation.show, propagation.frequency, propagation.parameter);
     m_toolBar->EnableTool(ui::kIdGreyline, true);
     m_toolBar->ToggleTool(ui::kIdGreyline, m_settings->greyzone.show);
+}
+
+void WxKavFrame::OnCreationBegun()
+{
+    m_warning.clear();
+    SetStatusText("", 1);
+    EnableCreationTools(false);
+    m_greylineTimer.Stop();
+    m_propagationTimer.Stop();
+}
+
+void WxKavFrame::OnStep(const wxString& text)
+{
+    SetStatusText(text, 0);
+    if (onStep && !text.empty())
+        onStep(text);
+}
+
+void WxKavFrame::OnError(const wxString& text)
+{
+    ui::native::Announce(m_statusBar, text);
+    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, this);
+}
+
+void WxKavFrame::OnRows(int done, int all)
+{
+    if (done == 0 && IsShown())
+        m_progress.emplace("Kavdex", wxString(' ', 28) + "Creating Map" + wxString(' ', 28), all, this,
+                           wxPD_APP_MODAL | wxPD_AUTO_HIDE);
+    else if (m_progress)
+        m_progress->Update(done);
+}
+
+void WxKavFrame::OnWarning(const wxString& text)
+{
+    m_warning = text;
+    SetStatusText(text, 0);
+}
+
+void WxKavFrame::OnPropagationBegun()
+{
+    m_warning.clear();
+    m_commandsOff.emplace(*m_toolBar, *GetMenuBar());
+    m_wait = Wait::Silent;
+    m_waitSince = UtcNow();
+}
+
+bool WxKavFrame::OnWaiting(std::chrono::milliseconds waited)
+{
+    if (m_wait == Wait::Silent && waited >= kShortWait)
+    {
+        m_wait = Wait::Shown;
+        OnStep(wxString::Format("Waiting for voacapl since %02d:%02d:%02d Z; Escape ends it", m_waitSince.hour,
+                                m_waitSince.minute, m_waitSince.second));
+    }
+    if (auto* const loop = wxEventLoopBase::GetActive())
+        loop->YieldFor(wxEVT_CATEGORY_ALL);
+    return m_wait == Wait::Silent || m_wait == Wait::Shown;
+}
+
+void WxKavFrame::OnPropagationEnded()
+{
+    m_commandsOff.reset();
+    const Wait wait = std::exchange(m_wait, Wait::None);
+    if (wait == Wait::Closed)
+        Destroy();
+    else if (wait == Wait::Abandoned)
+        OnError("voacapl was ended. The map has no propagation overlay.");
+}
+
+void WxKavFrame::OnGreylineShown()
+{
+    m_toolBar->EnableTool(ui::kIdGreyline, true);
+    m_toolBar->ToggleTool(ui::kIdGreyline, true);
+}
+
+void WxKavFrame::OnGreylineTool(wxCommandEvent& event)
+{
+    const int timeMode = m_settings->greyzone.timeMode;
+    if (!event.IsChecked())
+    {
+        m_canvas->showGreyline = false;
+    }
+    else if (m_canvas->greylineBitmap)
+    {
+        m_canvas->showGreyline = true;
+    }
+    else if (timeMode == kRealTime || timeMode == kOnce)
+    {
+        FollowTimeMode(m_greylineTimer, timeMode, kGreylinePeriodMs);
+        greylineDrawn = true;
+        DrawGreyline();
+    }
+    m_canvas->ShowPicture();
 }

@@ -17,6 +17,7 @@ WxKavFrame::WxKavFrame(wxWindow* parent) : WxKavFrame(parent, std::make_unique<C
 
 WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings)
     : GUIFrame(parent),
+      MapMaker(*settings, *m_canvas, *this),
       m_greylineTimer(this, ui::kIdGreylineTimer),
       m_propagationTimer(this, ui::kIdPropagationTimer),
       m_settings(std::move(settings))
@@ -28,7 +29,8 @@ WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings
     m_toolBar->EnableTool(ui::kIdGreyline, false);
     SetPropagationTools(false, m_settings->propagation.frequency, m_settings->propagation.parameter);
     Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { DrawGreyline(); }, ui::kIdGreylineTimer);
+        wxEVT_TIMER, [this](wxTimerEvent&) { DrawGreyline(m_toolBar->GetToolState(ui::kIdGreyline)); },
+        ui::kIdGreylineTimer);
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { DrawPropagation(false); }, ui::kIdPropagationTimer);
     m_canvas->onCross = [this](const wxPoint& pixel)
@@ -38,19 +40,6 @@ WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings
     };
     Bind(wxEVT_CHAR_HOOK, &WxKavFrame::OnKey, this);
     m_canvas->mapReady = true;
-}
-
-void WxKavFrame::ShowStep(const wxString& text)
-{
-    SetStatusText(text, 0);
-    if (onStep)
-        onStep(text);
-}
-
-void WxKavFrame::ShowError(const wxString& text)
-{
-    ui::native::Announce(m_statusBar, text);
-    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, this);
 }
 
 void WxKavFrame::SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex)
@@ -124,18 +113,18 @@ void WxKavFrame::OnCanvasMotion(wxMouseEvent& event)
 
 void WxKavFrame::ShowReadOut(const wxPoint& pixel)
 {
-    if (!m_view || m_wait != Wait::None)
+    if (!View() || m_wait != Wait::None)
         return;
-    const geo::MapPoint point = m_view->frame.PixelToMap(pixel.x, pixel.y);
+    const geo::MapPoint point = View()->frame.PixelToMap(pixel.x, pixel.y);
     const auto [distanceKm, bearingDeg] = geo::RangeAndBearingOf(point);
-    if (static_cast<double>(m_view->frame.mapRadius / 1000) <= distanceKm)
+    if (static_cast<double>(View()->frame.mapRadius / 1000) <= distanceKm)
     {
         SetStatusText("", 0);
         return;
     }
     double lon{};
     double lat{};
-    m_view->projection.Inverse(lon, lat, point.x, point.y);
+    View()->projection.Inverse(lon, lat, point.x, point.y);
     lon *= geo::kDegPerRad;
     lat *= geo::kDegPerRad;
     wxString locator = kScratchLocator;
@@ -165,7 +154,7 @@ void WxKavFrame::OnSaveImage(wxCommandEvent&)
     if (HasMap() && render::PictureTypeOf(path))
         render::SavePicture(m_canvas->Compose(), path);
     else
-        ShowError("Couldn't save " + path);
+        OnError("Couldn't save " + path);
 }
 
 void WxKavFrame::OnFrequencyTool(wxCommandEvent& event)

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "config/Configuration.h"
-#include "propagation/OutsideProgram.h"
-#include "render/BaseMap.h"
-#include "render/GridLines.h"
-#include "render/Layer.h"
-#include "render/MapView.h"
+#include "maker/MapMaker.h"
+#include "ui/CommandsOff.h"
 #include "ui/GUIFrame.h"
 
+#include <wx/progdlg.h>
 #include <wx/timer.h>
 
 #include <functional>
@@ -17,9 +15,10 @@
 /**
  * The main window: its commands, its timers and the creation of maps.
  *
- * Without being shown it still creates maps; then no progress dialog appears.
+ * Without being shown it still creates maps; then no progress dialog appears. While voacapl runs it goes on repainting
+ * and taking texts, but no commands, and after some seconds says what it waits for. Escape or closing it ends voacapl.
  */
-class WxKavFrame : public GUIFrame
+class WxKavFrame : public GUIFrame, private MapListener, public MapMaker
 {
 public:
     /// With the settings of the working file.
@@ -45,39 +44,6 @@ public:
     /// Told the text of every step of a creation; none by default.
     std::function<void(const wxString& step)> onStep;
 
-    /// Told what is not right about an overlay that is drawn nevertheless; the status bar says it, too.
-    std::function<void(const wxString& text)> onWarning;
-
-    /**
-     * Asked while voacapl runs; who answers false says so to the user.
-     *
-     * If there is none, the window goes on repainting and taking texts, but no commands, and after some seconds says
-     * what it waits for. Escape or closing it ends voacapl.
-     */
-    propagation::KeepWaiting keepWaiting;
-
-    /**
-     * Blends a layer onto a picture of the map and makes that the map: every pixel of the layer that is not white, but
-     * for the outermost frame.
-     *
-     * @param[in] layerImage, mapImage of one size.
-     * @param[in] alpha opacity; its low eight bits count, and 0 leaves the map as it is.
-     */
-    void BlendLayer(wxImage layerImage, wxImage mapImage, int alpha);
-
-    // The layers of a map. Without a map those that say so show an error, the others do nothing.
-    void DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
-                       int latFrom, int latTo, int latStep);
-    void DrawFieldLabels();
-    void DrawSquareLabels();
-    void DrawCompass(); ///< shows an error
-    void DrawCompassText();
-    void DrawBorderLines(const BorderSlot& slot);
-    void DrawRadials();
-    void DrawTextLabels(const TextSlot& slot);
-    void DrawRangeCircles(); ///< shows an error; brings the distance in the settings to 100 km at least
-    void DrawPlottedSquares(const PlotSquaresSlot& slot);
-
     /// Enables or disables the tools for frequency and parameter and toggles those that are chosen; an index that is no
     /// tool's chooses none.
     void SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex);
@@ -102,40 +68,28 @@ protected:
     wxTimer m_propagationTimer;
 
 private:
-    void ShowStep(const wxString& text);
-    void ShowError(const wxString& text);
-    bool HasMap() const { return m_view && m_canvas->mapBitmap; }
     wxString DefaultPictureName() const;
     void ShowReadOut(const wxPoint& pixel); ///< of a pixel of the map
     void ResetOverlays();                   ///< hides them and stops following the clock: the settings have changed
 
-    // Creating a map, in this order.
     void TakeCentreFromLocatorField();
-    void BeginCreation();
     void EnableCreationTools(bool enable); ///< those for creating, saving and options
-    bool NewMap();
-    bool DrawBaseMaps();
-    void ReprojectBaseMap(const render::WorldPicture& source);
-    void DrawLayers();
-    void DrawOverlays();
-    void FinishCreation();
+    void SayFinished();
+    void FollowClock(); ///< starts and stops the timers as the settings want it after a creation
 
-    // One layer: named in the status bar, drawn on a blank sheet, blended. Of an opacity the low eight bits count.
-    using Drawing = std::function<void(wxDC& dc)>;
-    using TextDrawing = std::function<void(wxDC& dc, const MapView& view, const TextStyle& style)>;
-    wxDC* BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth, render::Inks inks);
-    void EndLayer(long alpha);
-    void DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth, const Drawing& draw,
-                   render::Inks inks = render::Inks::One);
-    void DrawLines(const wxString& statusText, const LineStyle& style, const Drawing& draw);
-    void DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw);
-    void DrawGrid(const LineStyle& style, const render::GridSpec& grid);
-    bool HasMapOrError(const wxString& text);
-
-    // The overlays that follow the clock.
-    void DrawGreyline();
-    bool RememberHourAngle(std::int64_t degree); ///< whether it differs from the one before
-    void DrawPropagation(bool selectionChanged);
+    void OnCreationBegun() override;
+    void OnNewMap(int side) override { m_canvas->MakeRoomFor(side); }
+    void OnStep(const wxString& text) override;
+    void OnSun(const wxString& text) override { SetStatusText(text, 1); }
+    void OnError(const wxString& text) override;
+    void OnWarning(const wxString& text) override;
+    void OnRows(int done, int all) override;
+    void OnRowsDone() override { m_progress.reset(); }
+    void OnPictureChanged() override { m_canvas->ShowPicture(); }
+    void OnGreylineShown() override;
+    void OnPropagationBegun() override;
+    bool OnWaiting(std::chrono::milliseconds waited) override;
+    void OnPropagationEnded() override;
 
     // While voacapl runs.
     enum class Wait
@@ -146,17 +100,12 @@ private:
         Abandoned, ///< by Escape
         Closed     ///< and the window with it
     };
-    bool WaitForVoacapl(std::chrono::milliseconds waited);
     void OnKey(wxKeyEvent& event);
 
-    /// Forces the next greyline to be drawn whatever degree was remembered; drawing clears it.
-    bool greylineDrawn = false;
-    std::optional<std::int64_t> m_hourAngleDegree; ///< for which the greyline was last drawn in real time
-
     std::unique_ptr<Configuration> m_settings;
+    std::optional<wxProgressDialog> m_progress; ///< for as long as the base picture is drawn
     Wait m_wait = Wait::None;
     UtcTime m_waitSince{};
-    wxString m_warning;                   ///< about the propagation overlay
-    std::optional<MapView> m_view;        ///< of the map on the canvas
-    std::optional<render::Layer> m_layer; ///< for as long as a map is being created
+    std::optional<ui::CommandsOff> m_commandsOff; ///< for as long as the propagation overlay is made
+    wxString m_warning;                           ///< about the propagation overlay
 };

@@ -1,3 +1,4 @@
+#include "config/SettingKeys.h"
 #include "config/Configuration.h"
 
 #include "config/SettingsFile.h"

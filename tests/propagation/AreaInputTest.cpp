@@ -20,7 +20,7 @@ class AreaInputTest : public testing::Test
 {
 protected:
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
 
     geo::LatLon Centre() const { return {settings.centreLat, settings.centreLon}; }
 

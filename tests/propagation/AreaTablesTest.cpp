@@ -51,7 +51,7 @@ TEST(AreaTime, IsTheStoredHourOfTheStoredMonthWhateverTheMinute)
 TEST(AreaInputText, HasEverySettingInItsOwnPlace)
 {
     const TemporaryHome home;
-    Configuration settings("Kavdex");
+    Settings settings = DefaultSettings();
     PropagationSettings& p = settings.propagation;
     p.engine = 0;
     p.parameter = 2;

@@ -23,7 +23,7 @@ class ClassScaleTest : public testing::Test
 {
 protected:
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
     PropagationSettings& propagation = settings.propagation;
 
     ClassScale Scale(const ResultGrid& grid = {}) const { return ScaleOf(propagation, grid); }

@@ -54,7 +54,7 @@ protected:
     }
 
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
     PropagationSettings& p = settings.propagation;
 };
 

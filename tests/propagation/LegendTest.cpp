@@ -2,6 +2,7 @@
 
 #include "propagation/Overlay.h"
 #include "propagation/WorldGrid.h"
+#include "render/Bitmaps.h"
 #include "render/Style.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TemporaryHome.h"
@@ -47,7 +48,7 @@ protected:
     }
 
     const TemporaryHome home;
-    const Configuration settings{"Kavdex"};
+    const Settings settings = DefaultSettings();
     const wxFont font = render::FontFromSetting(settings.compass.text.font);
     ClassScale scale;
     int labelWidth = 0;

@@ -50,7 +50,7 @@ protected:
     }
 
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
     ResultGrid result;
     std::vector<double> values;
 };
@@ -129,15 +129,6 @@ TEST_F(OverlayTest, HasTheSamePixelsAtOtherOpacities)
         ASSERT_TRUE(Same(Draw(static_cast<std::uint8_t>(alpha)),
                          PlainOverlay(View(), values, Scale(), static_cast<unsigned char>(alpha))))
             << alpha;
-}
-
-TEST_F(OverlayTest, ComesOutTheSameWhereBitmapsCantBeReachedInPlace)
-{
-    const Pixels direct = Draw();
-    render::BitmapPixels::mayReachInPlace = false;
-    const Pixels detour = Draw();
-    render::BitmapPixels::mayReachInPlace = true;
-    EXPECT_TRUE(Same(detour, direct));
 }
 
 TEST_F(OverlayTest, ShowsTheClassOfThePlaceUnderEachPixel)

@@ -3,7 +3,6 @@
 #include "render/BitmapPixels.h"
 #include "render/Layer.h"
 #include "tests/propagation/PlaceAt.h"
-#include "tests/support/Dialogs.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -74,7 +73,9 @@ protected:
     std::unique_ptr<wxBitmap> Draw()
     {
         view = render::MakeMapView(settings, 17);
-        const Propagation propagation(picture, view, settings, [](const wxString&) {});
+        const Propagation propagation(
+            picture, view, settings,
+            {[](const wxString&) {}, [this](const wxString& error) { errors.push_back(error); }});
         EXPECT_TRUE(picture.showPropagation);
         return std::move(picture.propagationBitmap);
     }
@@ -115,8 +116,8 @@ protected:
     }
 
     const TemporaryHome home;
-    Dialogs dialogs;
-    Configuration settings{"Kavdex"};
+    std::vector<wxString> errors;
+    Settings settings = DefaultSettings();
     MapPicture picture;
     MapView view;
 };
@@ -320,9 +321,10 @@ TEST_F(PropagationPictureTest, NamesAntennasByTheBytesOfTheirFiles)
     wxGetEnv("PATH", &pathBefore);
     wxSetEnv("PATH", home.Path("none"));
     view = render::MakeMapView(settings, 17);
-    const Propagation propagation(picture, view, settings, [](const wxString&) {});
+    const Propagation propagation(picture, view, settings,
+                                  {[](const wxString&) {}, [this](const wxString& error) { errors.push_back(error); }});
     wxSetEnv("PATH", pathBefore);
-    EXPECT_EQ(dialogs.Texts(), "Error calling VOACAP\n");
+    EXPECT_EQ(errors, std::vector<wxString>{"Error calling VOACAP"});
     const std::string written = home.Read("areadata/default/kavdex.voa");
     EXPECT_NE(written.find("\nTx Ants  :[blåbær  \\地図.00       ]"), std::string::npos) << written;
     EXPECT_NE(written.find("\nRec Ants :[ascii   \\other.00    ]"), std::string::npos) << written;

@@ -2,7 +2,6 @@
 
 #include "propagation/AreaInput.h"
 #include "tests/propagation/Results.h"
-#include "tests/support/Dialogs.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/ScarceMemory.h"
 #include "tests/support/TemporaryHome.h"
@@ -71,20 +70,18 @@ protected:
         std::filesystem::create_directories(home.Path(name + "/areadata/default").utf8_string());
     }
 
-    /// Draws an overlay and returns the messages that were shown.
+    /// Draws an overlay and returns the errors that were reported.
     std::vector<std::string> Draw(const wxString& behaviour = "")
     {
         const EnvironmentVariable how("KAV_STAND_IN", behaviour);
-        const std::size_t before = dialogs.messages.size();
         steps.clear();
+        std::vector<std::string> errors;
         view = render::MakeMapView(settings, 1);
-        const Propagation propagation(
-            picture, view, settings, [this](const wxString& step) { steps.push_back(step.utf8_string()); },
-            keepWaiting);
-        std::vector<std::string> texts;
-        for (std::size_t i = before; i < dialogs.messages.size(); ++i)
-            texts.push_back(dialogs.messages[i].text.utf8_string());
-        return texts;
+        const Propagation propagation(picture, view, settings,
+                                      {[this](const wxString& step) { steps.push_back(step.utf8_string()); },
+                                       [&errors](const wxString& error) { errors.push_back(error.utf8_string()); }},
+                                      keepWaiting);
+        return errors;
     }
 
     /// Puts an overlay into the picture that a failure has to leave alone.
@@ -112,8 +109,7 @@ protected:
     const TemporaryHome home;
     wxString path = wxString(KAV_STAND_IN) + ":" + wxGetenv("PATH");
     EnvironmentVariable searchPath{"PATH", path};
-    Dialogs dialogs;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
     MapPicture picture;
     MapView view;
     std::vector<std::string> steps;
@@ -224,8 +220,6 @@ TEST_F(PropagationTest, ReportsARunThatFailsOnce)
         EXPECT_THAT(Draw(behaviour), ElementsAre("Error calling VOACAP")) << behaviour;
         ExpectPreviousOverlayHidden(previous);
     }
-    EXPECT_EQ(dialogs.messages[0].caption, "Error");
-    EXPECT_EQ(dialogs.messages[0].style & (wxOK | wxICON_ERROR), wxOK | wxICON_ERROR);
 }
 
 TEST_F(PropagationTest, ReportsAMissingProgramOnce)
@@ -378,7 +372,7 @@ TEST_F(PropagationTest, BelongsToTheMapNotToTheSettings)
     settings.zoom = 100;
     settings.centreLat = -12;
     settings.centreLon = 95;
-    const Propagation again(picture, view, settings, [](const wxString&) {});
+    const Propagation again(picture, view, settings, {[](const wxString&) {}, [](const wxString&) {}});
     EXPECT_EQ(picture.propagationBitmap->GetSize(), wxSize(200, 200));
     EXPECT_EQ(home.Read(kInput), input);
 }
@@ -389,7 +383,8 @@ TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)
     keepWaiting = [&](std::chrono::milliseconds)
     {
         busy += Propagation::IsBusy();
-        const Propagation second(picture, view, settings, [](const wxString&) { ADD_FAILURE(); });
+        const Propagation second(picture, view, settings,
+                                 {[](const wxString&) { ADD_FAILURE(); }, [](const wxString&) { ADD_FAILURE(); }});
         if (busy >= 4)
             home.Write("voacap/go on", "");
         return true;

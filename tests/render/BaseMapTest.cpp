@@ -27,7 +27,7 @@ class BaseMapTest : public testing::Test
 {
 protected:
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
 
     Colours Paint(const render::WorldPicture& world, const MapView& view) const
     {

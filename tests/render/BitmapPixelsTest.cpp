@@ -1,5 +1,6 @@
 #include "render/BitmapPixels.h"
 
+#include "render/Bitmaps.h"
 #include "render/HugePages.h"
 #include "render/Layer.h"
 #include "tests/support/Pictures.h"
@@ -11,7 +12,6 @@
 #include <wx/graphics.h>
 
 #include <cmath>
-#include <random>
 #include <sstream>
 #include <string>
 #include <sys/mman.h>
@@ -34,66 +34,6 @@ TEST(Pixel, HoldsOpacityRedGreenAndBlueFromTheTop)
         }
 }
 
-/// Bitmaps with and without opacity, of random pixels.
-class PixelsThroughAnImage : public testing::TestWithParam<int>
-{
-protected:
-    void TearDown() override { render::BitmapPixels::mayReachInPlace = true; }
-
-    Argb RandomPixel()
-    {
-        const auto byte = [this] { return static_cast<unsigned>(random() % 256); };
-        return GetParam() == 24 ? render::OpaquePixel(byte(), byte(), byte())
-                                : render::PremultipliedPixel(byte(), byte(), byte(), random() % 4 ? byte() : 0);
-    }
-
-    std::vector<Argb> Fill(wxBitmap& bitmap)
-    {
-        const render::BitmapPixels pixels(bitmap);
-        std::vector<Argb> filled;
-        for (int y = 0; y < pixels.Height(); ++y)
-            for (Argb& pixel : pixels.Row(y))
-                filled.push_back(pixel = RandomPixel());
-        return filled;
-    }
-
-    static std::vector<Argb> Read(wxBitmap& bitmap)
-    {
-        const render::BitmapPixels pixels(bitmap);
-        std::vector<Argb> read;
-        for (int y = 0; y < pixels.Height(); ++y)
-            for (const Argb pixel : pixels.Row(y))
-                read.push_back(GetParam() == 24 ? pixel | 0xFF000000 : pixel);
-        return read;
-    }
-
-    std::mt19937 random{11};
-};
-
-TEST_P(PixelsThroughAnImage, AreThoseInPlace)
-{
-    wxBitmap bitmap(37, 23, GetParam());
-    const std::vector<Argb> filled = Fill(bitmap);
-    render::BitmapPixels::mayReachInPlace = false;
-    EXPECT_FALSE(render::BitmapPixels::AreInPlace(bitmap));
-    EXPECT_EQ(Read(bitmap), filled);
-    EXPECT_EQ(Read(bitmap), filled); // reading changes nothing
-}
-
-TEST_P(PixelsThroughAnImage, AreWrittenBack)
-{
-    wxBitmap bitmap(37, 23, GetParam());
-    Fill(bitmap);
-    render::BitmapPixels::mayReachInPlace = false;
-    const std::vector<Argb> filled = Fill(bitmap);
-    render::BitmapPixels::mayReachInPlace = true;
-    EXPECT_TRUE(render::BitmapPixels::AreInPlace(bitmap));
-    EXPECT_EQ(Read(bitmap), filled);
-    EXPECT_EQ(bitmap.HasAlpha(), GetParam() == 32);
-}
-
-INSTANTIATE_TEST_SUITE_P(Depths, PixelsThroughAnImage, testing::Values(24, 32));
-
 TEST(NewBitmap, HasTheSideAndTheDepthAskedFor)
 {
     const auto map = render::NewWhiteBitmap(50);
@@ -103,7 +43,6 @@ TEST(NewBitmap, HasTheSideAndTheDepthAskedFor)
     const auto overlay = render::NewOverlayBitmap(50);
     EXPECT_EQ(overlay->GetSize(), wxSize(50, 50));
     EXPECT_EQ(overlay->GetDepth(), 32);
-    EXPECT_TRUE(render::BitmapPixels::AreInPlace(*map) && render::BitmapPixels::AreInPlace(*overlay));
 }
 
 TEST(BitmapPixels, AreSeenByTheToolkitAtOnce)
@@ -136,7 +75,6 @@ TEST(Bitmaps, GiveTheirMemoryBack)
     {
         auto map = render::NewWhiteBitmap(2000);
         ASSERT_TRUE(map) << i;
-        ASSERT_TRUE(render::BitmapPixels::AreInPlace(*map));
         ASSERT_TRUE(render::ImageOf(*map).IsOk()) << i;
         map.reset();
         render::Layer layer(2000, render::Inks::Many);

@@ -1,6 +1,7 @@
 #include "render/Greyline.h"
 
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 #include "tests/support/LiteralMap.h"
 
 #include <algorithm>
@@ -139,7 +140,7 @@ protected:
     }
 
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
 };
 
 constexpr geo::LatLon kMarchNoon{0.0, 2.0};

@@ -19,7 +19,7 @@ protected:
     {
         render::Layer layer(kSide, render::Inks::Many);
         draw(layer.Begin(*wxBLACK, 1));
-        return layer.TakeImage();
+        return PictureOf(layer, kSide);
     }
 
     wxImage Filled(int stipple, const Corners& corners) const

@@ -1,6 +1,7 @@
 #include "render/Layer.h"
 
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 #include "render/Blend.h"
 #include "render/DiscDrawing.h"
 #include "render/Hatch.h"
@@ -108,7 +109,7 @@ TEST(Layer, DrawnInWhiteLeavesTheMapAlone)
     }
     render::Layer layer(60);
     layer.Begin(*wxWHITE, 3).DrawLine(0, 0, 60, 60);
-    EXPECT_TRUE(layer.BlendOnto(*map, 255));
+    layer.BlendOnto(*map, 255);
     EXPECT_EQ(DistinctColours(ColoursOf(*map)), std::set<render::Argb>{render::OpaquePixel(1, 2, 3)});
 }
 
@@ -204,28 +205,9 @@ TEST_P(LayerSheet, LeavesThePixelsOfAWhiteBitmapThatIsBlended)
         render::BlendLayer({drawn.GetData(), bytes}, {expected.GetData(), bytes}, side, side,
                            static_cast<std::uint8_t>(alpha));
         Draw(layer.Begin(ink, 1));
-        ASSERT_TRUE(layer.BlendOnto(map, static_cast<std::uint8_t>(alpha)));
+        layer.BlendOnto(map, static_cast<std::uint8_t>(alpha));
         EXPECT_TRUE(SamePicture(ColoursOf(map), ColoursOfImage(expected))) << "alpha " << alpha;
     }
-}
-
-TEST_P(LayerSheet, LeavesThePixelsOfAWhiteBitmapAsAnImage)
-{
-    Draw(layer.Begin(ink, 1));
-    EXPECT_TRUE(SamePicture(ColoursOfImage(layer.TakeImage()), ColoursOfImage(OnWhiteBitmap())));
-    EXPECT_EQ(DistinctColours(ColoursOfImage(layer.TakeImage())), std::set<render::Argb>{render::kWhite});
-}
-
-TEST_P(LayerSheet, LeavesTheMapAloneWhereItsPixelsCannotBeReached)
-{
-    wxBitmap map = RandomBitmap(side);
-    const Colours before = ColoursOf(map);
-    Draw(layer.Begin(ink, 1));
-    render::BitmapPixels::mayReachInPlace = false;
-    EXPECT_FALSE(layer.BlendOnto(map, 255));
-    render::BitmapPixels::mayReachInPlace = true;
-    EXPECT_TRUE(SamePicture(ColoursOf(map), before));
-    EXPECT_TRUE(SamePicture(ColoursOfImage(layer.TakeImage()), ColoursOfImage(OnWhiteBitmap())));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, LayerSheet,

@@ -1,5 +1,6 @@
 #include "render/MapPicture.h"
 
+#include "render/Bitmaps.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/ScarceMemory.h"
 
@@ -143,13 +144,10 @@ TEST(MapPicture, IsTakenAsItIsShownAndGoneThen)
             }
 }
 
-/// Bitmaps of several sizes whose pixels all differ, with their colours; reached in place or not.
-class ImagesOfBitmaps : public testing::TestWithParam<bool>
+/// Bitmaps of several sizes whose pixels all differ, with their colours.
+class ImagesOfBitmaps : public testing::Test
 {
 protected:
-    void SetUp() override { render::BitmapPixels::mayReachInPlace = GetParam(); }
-    void TearDown() override { render::BitmapPixels::mayReachInPlace = true; }
-
     template <class MakeImage>
     static void ExpectEveryPixel(MakeImage make)
     {
@@ -172,16 +170,13 @@ protected:
     }
 };
 
-TEST_P(ImagesOfBitmaps, HaveEveryPixel)
+TEST_F(ImagesOfBitmaps, HaveEveryPixel)
 {
     ExpectEveryPixel(render::ImageOf);
 }
 
-TEST_P(ImagesOfBitmaps, HaveEveryPixelInTheBitmapsOwnMemory)
+TEST_F(ImagesOfBitmaps, HaveEveryPixelInTheBitmapsOwnMemory)
 {
     ExpectEveryPixel(render::TakeImageOf);
 }
-
-INSTANTIATE_TEST_SUITE_P(PixelsReached, ImagesOfBitmaps, testing::Bool(),
-                         [](const auto& param) { return param.param ? "InPlace" : "ThroughImages"; });
 } // namespace

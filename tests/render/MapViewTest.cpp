@@ -12,7 +12,7 @@ class MapViewTest : public testing::Test
 {
 protected:
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
 };
 
 TEST_F(MapViewTest, RadiusStaysBetween100And20000Km)

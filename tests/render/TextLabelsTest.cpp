@@ -2,7 +2,6 @@
 
 #include "render/LabelBox.h"
 #include "render/Occupancy.h"
-#include "tests/support/Dialogs.h"
 #include "tests/support/Stencil.h"
 
 namespace
@@ -251,17 +250,11 @@ TEST_F(TextLabelsTest, ReachThePictureFromOutside)
     EXPECT_EQ(Count(L"a;A rather long name;x;y;0;100"), 0u);
 }
 
-TEST_F(TextLabelsTest, OfAFileThatCannotBeReadGiveOneMessage)
+TEST_F(TextLabelsTest, OfAFileThatCannotBeReadAreNone)
 {
-    const Dialogs dialogs;
     const LogLines log;
     EXPECT_FALSE(render::ReadLabelFile("no such file.dat"));
-    ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].text, "Error opening file no such file.dat");
-    EXPECT_EQ(dialogs.messages[0].caption, "Error");
-    EXPECT_EQ(dialogs.messages[0].style & (wxOK | wxCANCEL | wxICON_MASK), wxOK | wxICON_ERROR);
     EXPECT_FALSE(render::ReadLabelFile(home.Path("")));
-    EXPECT_EQ(dialogs.messages.size(), 2u);
     EXPECT_TRUE(log.lines.empty());
 }
 

@@ -23,7 +23,7 @@ protected:
     {
         render::Layer layer(kSide);
         draw(layer.Begin(*wxBLACK, width));
-        return layer.TakeImage();
+        return PictureOf(layer, kSide);
     }
 
     /// @param[in] trace gets a context and what draws a line on it.

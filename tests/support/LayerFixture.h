@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
 #include "render/Layer.h"
 #include "render/MapView.h"
 #include "tests/support/TemporaryHome.h"
@@ -9,6 +10,7 @@
 
 #include <wx/log.h>
 
+#include <algorithm>
 #include <set>
 #include <vector>
 
@@ -64,6 +66,26 @@ private:
     std::vector<bool> m_isInked;
 };
 
+/// What is drawn on a layer, on white, without the outermost frame, which a layer never marks; ends the layer. A
+/// channel of 1 comes back as 0.
+inline wxImage PictureOf(render::Layer& layer, int side)
+{
+    const auto map = render::NewWhiteBitmap(side);
+    layer.BlendOnto(*map, 255);
+    wxImage image = render::ImageOf(*map);
+    // Blending has made the channels of what is drawn less by 1.
+    unsigned char* rgb = image.GetData();
+    for (int i = 0; i < side * side; ++i, rgb += 3)
+        if (rgb[0] != 255 || rgb[1] != 255 || rgb[2] != 255)
+            std::for_each(rgb, rgb + 3,
+                          [](unsigned char& channel)
+                          {
+                              if (channel > 0)
+                                  ++channel;
+                          });
+    return image;
+}
+
 /// A map view for tests of layers, and a way to draw a layer alone.
 class LayerFixture : public testing::Test
 {
@@ -104,7 +126,7 @@ protected:
     }
 
     const TemporaryHome home;
-    Configuration settings{"Kavdex"};
+    Settings settings = DefaultSettings();
 };
 
 /// Collects what is logged for as long as it lives.

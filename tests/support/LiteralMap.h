@@ -19,7 +19,7 @@
  */
 struct LiteralMap
 {
-    LiteralMap(const Configuration& settings, int textHeight)
+    LiteralMap(const Settings& settings, int textHeight)
         : size(static_cast<int>(settings.size)),
           half(size / 2),
           margin((settings.compass.text.show ? textHeight : 1) + (settings.compass.insideMap ? 0 : size / 100)),
@@ -124,7 +124,7 @@ protected:
         const int side = static_cast<int>(settings.size);
         render::Layer layer(side, render::Inks::Many);
         draw(layer.Begin(colour, lineWidth));
-        const wxImage got = layer.TakeImage();
+        const wxImage got = PictureOf(layer, side);
 
         wxBitmap sheet(side, side);
         {
@@ -138,8 +138,8 @@ protected:
         }
         const wxImage expected = sheet.ConvertToImage();
         std::size_t inked = 0;
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x)
+        for (int y = 1; y < side - 1; ++y)
+            for (int x = 1; x < side - 1; ++x)
             {
                 const auto rgb = [x, y](const wxImage& image)
                 { return image.GetRed(x, y) << 16 | image.GetGreen(x, y) << 8 | image.GetBlue(x, y); };

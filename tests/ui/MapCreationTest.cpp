@@ -335,18 +335,4 @@ TEST_F(MapCreationTest, BlendsImagesOntoTheMapByTheLayerRule)
     EXPECT_EQ(colours[0][50], render::OpaquePixel(200, 40, 0));
     EXPECT_EQ(colours[1][50], render::OpaquePixel(200 * 211 / 256 + 100 * 44 / 256, 40 * 211 / 256, 0));
 }
-
-TEST_F(MapCreationTest, GivesTheSamePictureThroughImages)
-{
-    settings->meridians.show = settings->compass.show = settings->radials.show = true;
-    settings->greyzone.show = true;
-    settings->greyzone.timeMode = kOnce;
-    Create();
-    wxBitmap inPlace(frame->Picture().Compose());
-    render::BitmapPixels::mayReachInPlace = false;
-    Create();
-    wxBitmap throughImages(frame->Picture().Compose());
-    render::BitmapPixels::mayReachInPlace = true;
-    EXPECT_TRUE(SamePicture(ColoursOf(throughImages), ColoursOf(inPlace)));
-}
 } // namespace

@@ -1,3 +1,4 @@
+#include "config/SettingKeys.h"
 #include "tests/support/OptionsFixture.h"
 
 #include <map>

@@ -26,11 +26,10 @@ TEST_F(ProgramTest, PrintsItsVersionWithoutADisplay)
     EXPECT_THAT(Out(), StartsWith("Kavmap 3.1.9\nwxWidgets 3.2"));
 }
 
-TEST_F(ProgramTest, SaysWhatIsMissingWithoutADisplay)
+TEST_F(ProgramTest, SaysWhatIsMissingForTheWindowWithoutADisplay)
 {
-    EXPECT_EQ(Run("--render map.png", "-u DISPLAY -u WAYLAND_DISPLAY"), 1);
-    EXPECT_EQ(Err(),
-              "kavmap: no display to draw on: set DISPLAY, or start kavmap under a virtual one with xvfb-run -a\n");
+    EXPECT_EQ(Run("", "-u DISPLAY -u WAYLAND_DISPLAY"), 1);
+    EXPECT_EQ(Err(), "kavmap: no display for the window: set DISPLAY. Pictures need none: kavmap --render PICTURE\n");
 }
 
 TEST_F(ProgramTest, RefusesWrongUse)

@@ -1,4 +1,4 @@
-#include "ui/WxKavFrame.h"
+#include "maker/MapMaker.h"
 
 #include "render/Blend.h"
 #include "render/BorderLines.h"
@@ -24,9 +24,9 @@ int PenWidth(long setting)
 }
 } // namespace
 
-void WxKavFrame::DrawLayers()
+void MapMaker::DrawLayers()
 {
-    const Configuration& settings = *m_settings;
+    const Settings& settings = m_settings;
     DrawGrid(settings.meridians, render::kMeridianGrid);
     DrawGrid(settings.fields, render::kFieldGrid);
     if (settings.fields.show && settings.fields.text.show)
@@ -53,15 +53,15 @@ void WxKavFrame::DrawLayers()
             DrawPlottedSquares(slot);
 }
 
-void WxKavFrame::DrawGrid(const LineStyle& style, const render::GridSpec& grid)
+void MapMaker::DrawGrid(const LineStyle& style, const render::GridSpec& grid)
 {
     if (style.show)
         DrawGridLines(style.alpha, ColourFromSetting(style.colour), PenWidth(style.lineWidth), grid.lonFrom, grid.lonTo,
                       grid.lonStep, grid.latFrom, grid.latTo, grid.latStep);
 }
 
-void WxKavFrame::DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
-                               int latFrom, int latTo, int latStep)
+void MapMaker::DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
+                             int latFrom, int latTo, int latStep)
 {
     if (!HasMap())
         return;
@@ -71,57 +71,61 @@ void WxKavFrame::DrawGridLines(long alpha, const wxColour& colour, int lineWidth
               });
 }
 
-void WxKavFrame::DrawFieldLabels()
+void MapMaker::DrawFieldLabels()
 {
-    DrawTexts("Drawing Field Text...", m_settings->fields.text, render::DrawFieldLabels);
+    DrawTexts("Drawing Field Text...", m_settings.fields.text, render::DrawFieldLabels);
 }
 
-void WxKavFrame::DrawSquareLabels()
+void MapMaker::DrawSquareLabels()
 {
-    DrawTexts("Drawing Square Text...", m_settings->squares.text, render::DrawSquareLabels);
+    DrawTexts("Drawing Square Text...", m_settings.squares.text, render::DrawSquareLabels);
 }
 
-void WxKavFrame::DrawCompass()
+void MapMaker::DrawCompass()
 {
     if (HasMapOrError("Bitmap Error in function Compass"))
-        DrawLines("Drawing Compass...", m_settings->compass, [&](wxDC& dc) { render::DrawCompass(dc, *m_view); });
+        DrawLines("Drawing Compass...", m_settings.compass, [&](wxDC& dc) { render::DrawCompass(dc, *m_view); });
 }
 
-void WxKavFrame::DrawCompassText()
+void MapMaker::DrawCompassText()
 {
-    DrawTexts("Drawing Compass Text...", m_settings->compass.text, render::DrawCompassText);
+    DrawTexts("Drawing Compass Text...", m_settings.compass.text, render::DrawCompassText);
 }
 
-void WxKavFrame::DrawBorderLines(const BorderSlot& slot)
+void MapMaker::DrawBorderLines(const BorderSlot& slot)
 {
     DrawLines("Plotting Lines...", slot, [&](wxDC& dc) { render::DrawBorderLines(dc, *m_view, slot.file); });
 }
 
-void WxKavFrame::DrawRadials()
+void MapMaker::DrawRadials()
 {
-    const RadialsSettings& radials = m_settings->radials;
+    const RadialsSettings& radials = m_settings.radials;
     DrawLines("Drawing Radials...", radials, [&](wxDC& dc) { render::DrawRadials(dc, *m_view, radials.every); });
 }
 
-void WxKavFrame::DrawTextLabels(const TextSlot& slot)
+void MapMaker::DrawTextLabels(const TextSlot& slot)
 {
-    const auto text = HasMap() ? render::ReadLabelFile(slot.file) : std::nullopt;
-    if (text)
+    if (!HasMap())
+        return;
+    const auto text = render::ReadLabelFile(slot.file);
+    if (!text)
+        m_listener.OnError("Error opening file " + slot.file);
+    else
         DrawLayer("Plotting Text...", ColourFromSetting(slot.colour), slot.alpha, 1,
                   [&](wxDC& dc) { render::DrawTextLabels(dc, *m_view, *text, slot); });
 }
 
-void WxKavFrame::DrawRangeCircles()
+void MapMaker::DrawRangeCircles()
 {
     if (!HasMapOrError("Bitmap Error in function RangeCircles"))
         return;
-    RangeCirclesSettings& circles = m_settings->rangeCircles;
+    RangeCirclesSettings& circles = m_settings.rangeCircles;
     circles.distanceKm = render::RangeCircleStepKm(circles.distanceKm);
     DrawLines("Drawing Range Circles...", circles,
-              [&](wxDC& dc) { render::DrawRangeCircles(dc, *m_view, circles, m_settings->compass.text.font); });
+              [&](wxDC& dc) { render::DrawRangeCircles(dc, *m_view, circles, m_settings.compass.text.font); });
 }
 
-void WxKavFrame::DrawPlottedSquares(const PlotSquaresSlot& slot)
+void MapMaker::DrawPlottedSquares(const PlotSquaresSlot& slot)
 {
     const auto text = HasMap() ? render::ReadTextFile(slot.file) : std::nullopt;
     if (text)
@@ -130,28 +134,28 @@ void WxKavFrame::DrawPlottedSquares(const PlotSquaresSlot& slot)
             [&](wxDC& dc) { render::DrawPlottedSquares(dc, *m_view, *text, slot); }, render::Inks::Many);
 }
 
-bool WxKavFrame::HasMapOrError(const wxString& text)
+bool MapMaker::HasMapOrError(const wxString& text)
 {
     if (!HasMap())
-        ShowError(text);
+        m_listener.OnError(text);
     return HasMap();
 }
 
-void WxKavFrame::DrawLines(const wxString& statusText, const LineStyle& style, const Drawing& draw)
+void MapMaker::DrawLines(const wxString& statusText, const LineStyle& style, const Drawing& draw)
 {
     if (HasMap())
         DrawLayer(statusText, ColourFromSetting(style.colour), style.alpha, PenWidth(style.lineWidth), draw);
 }
 
-void WxKavFrame::DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw)
+void MapMaker::DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw)
 {
     if (HasMap())
         DrawLayer(statusText, ColourFromSetting(style.colour), style.alpha, 1,
                   [&](wxDC& dc) { draw(dc, *m_view, style); });
 }
 
-void WxKavFrame::DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
-                           const Drawing& draw, render::Inks inks)
+void MapMaker::DrawLayer(const wxString& statusText, const wxColour& colour, long alpha, int lineWidth,
+                         const Drawing& draw, render::Inks inks)
 {
     if (wxDC* const dc = BeginLayer(statusText, colour, lineWidth, inks))
     {
@@ -160,9 +164,9 @@ void WxKavFrame::DrawLayer(const wxString& statusText, const wxColour& colour, l
     }
 }
 
-wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth, render::Inks inks)
+wxDC* MapMaker::BeginLayer(const wxString& statusText, const wxColour& colour, int lineWidth, render::Inks inks)
 {
-    ShowStep(statusText);
+    m_listener.OnStep(statusText);
     if (!m_layer || m_layer->Kind() != inks)
         m_layer.emplace(m_view->frame.mapSize, inks);
     if (!m_layer->IsOk())
@@ -173,21 +177,19 @@ wxDC* WxKavFrame::BeginLayer(const wxString& statusText, const wxColour& colour,
     return &m_layer->Begin(colour, lineWidth);
 }
 
-void WxKavFrame::EndLayer(long alpha)
+void MapMaker::EndLayer(long alpha)
 {
-    const auto opacity = static_cast<std::uint8_t>(alpha);
-    if (!m_layer->BlendOnto(*m_canvas->mapBitmap, opacity))
-        BlendLayer(m_layer->TakeImage(), m_canvas->mapBitmap->ConvertToImage(), opacity);
-    m_canvas->ShowPicture();
+    m_layer->BlendOnto(*m_picture.mapBitmap, static_cast<std::uint8_t>(alpha));
+    m_listener.OnPictureChanged();
 }
 
-void WxKavFrame::BlendLayer(wxImage layerImage, wxImage mapImage, int alpha)
+void MapMaker::BlendLayer(wxImage layerImage, wxImage mapImage, int alpha)
 {
     const int width = mapImage.GetWidth();
     const int height = mapImage.GetHeight();
     const std::size_t bytes = 3 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
     render::BlendLayer({layerImage.GetData(), bytes}, {mapImage.GetData(), bytes}, width, height,
                        static_cast<std::uint8_t>(alpha));
-    m_canvas->mapBitmap = std::make_unique<wxBitmap>(mapImage);
-    m_canvas->ShowPicture();
+    m_picture.mapBitmap = std::make_unique<wxBitmap>(mapImage);
+    m_listener.OnPictureChanged();
 }

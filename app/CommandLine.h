@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace ui
+namespace app
 {
 /// What the user asked for on the command line. File names are bytes as the system passed them.
 struct CommandLine
@@ -26,4 +26,4 @@ CommandLine ParseCommandLine(int argc, char** argv);
 
 /// A time written as YYYY-MM-DDTHH:MM; none for anything else and for dates and times that do not exist.
 std::optional<UtcTime> ParseUtcTime(const std::string& text);
-} // namespace ui
+} // namespace app

@@ -1,4 +1,4 @@
-#include "ui/CommandLine.h"
+#include "app/CommandLine.h"
 
 #include "config/SpecialFile.h"
 
@@ -13,7 +13,7 @@
 #include <getopt.h>
 #include <unistd.h>
 
-namespace ui
+namespace app
 {
 namespace
 {
@@ -140,4 +140,4 @@ CommandLine ParseCommandLine(int argc, char** argv)
         return WrongUse(std::string("unexpected argument: ") + argv[optind]);
     return line;
 }
-} // namespace ui
+} // namespace app

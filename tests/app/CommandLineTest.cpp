@@ -1,4 +1,4 @@
-#include "ui/CommandLine.h"
+#include "app/CommandLine.h"
 
 #include "tests/support/TemporaryHome.h"
 
@@ -13,16 +13,16 @@
 
 namespace
 {
-using ui::ParseUtcTime;
+using app::ParseUtcTime;
 
-ui::CommandLine Parse(std::vector<std::string> words)
+app::CommandLine Parse(std::vector<std::string> words)
 {
     words.insert(words.begin(), "/usr/bin/kavmap");
     std::vector<char*> argv;
     for (std::string& word : words)
         argv.push_back(word.data());
     argv.push_back(nullptr);
-    return ui::ParseCommandLine(static_cast<int>(words.size()), argv.data());
+    return app::ParseCommandLine(static_cast<int>(words.size()), argv.data());
 }
 
 TEST(ParseUtcTime, ReadsDateAndTime)
@@ -48,15 +48,15 @@ TEST(ParseUtcTime, RefusesAnythingElse)
 
 TEST(CommandLine, IsEmptyForTheWindow)
 {
-    const ui::CommandLine line = Parse({});
+    const app::CommandLine line = Parse({});
     EXPECT_FALSE(line.render || line.settings || line.time || line.exitStatus);
 }
 
 TEST(CommandLine, TakesShortAndLongOptions)
 {
-    const ui::CommandLine shorts = Parse({"-r", "a.png", "-t", "2026-03-20T12:30", "-s", "/dev/null"});
-    const ui::CommandLine longs = Parse({"--render=a.png", "--time", "2026-03-20T12:30", "--settings=/dev/null"});
-    for (const ui::CommandLine& line : {shorts, longs})
+    const app::CommandLine shorts = Parse({"-r", "a.png", "-t", "2026-03-20T12:30", "-s", "/dev/null"});
+    const app::CommandLine longs = Parse({"--render=a.png", "--time", "2026-03-20T12:30", "--settings=/dev/null"});
+    for (const app::CommandLine& line : {shorts, longs})
     {
         EXPECT_EQ(line.render, "a.png");
         EXPECT_EQ(line.settings, "/dev/null");
@@ -86,7 +86,8 @@ TEST(CommandLine, SaysWhatWasWrong)
         Parse(words);
         return testing::internal::GetCapturedStderr();
     };
-    EXPECT_EQ(said({"-s", "/no/such/file"}), "kavmap: can't read the settings file /no/such/file: No such file or directory\n");
+    EXPECT_EQ(said({"-s", "/no/such/file"}),
+              "kavmap: can't read the settings file /no/such/file: No such file or directory\n");
     EXPECT_EQ(said({"-t", "noon"}), "kavmap: not a UTC time like 2026-03-20T12:30: noon\n");
     EXPECT_EQ(said({"-r", "a.png", "stray", "other"}), "kavmap: unexpected argument: stray\n");
     EXPECT_EQ(said({"--nonsense"}), "kavmap: unrecognized option '--nonsense'\n");
@@ -99,7 +100,7 @@ TEST(CommandLine, KnowsItsOptionsByTheirNames)
     EXPECT_EQ(Parse({"--settings", "/dev/null"}).settings, "/dev/null");
     EXPECT_EQ(Parse({"--time=2026-03-20T12:30"}).time, (UtcTime{2026, 2, 20, 12, 30, 0}));
     EXPECT_EQ(Parse({"-r", "a.png"}).render, "a.png");
-    EXPECT_EQ(ui::ParseCommandLine(0, nullptr).exitStatus, std::nullopt);
+    EXPECT_EQ(app::ParseCommandLine(0, nullptr).exitStatus, std::nullopt);
 }
 
 TEST(CommandLine, KeepsNothingOfALineBefore)

@@ -1,8 +1,9 @@
 #pragma once
 
-// The keys of the settings file with their defaults: the one place where they are listed. Included by Configuration.h.
+// The keys of the settings file with their defaults: the one place where they are listed. Whoever goes through all
+// settings includes it.
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 
 namespace config
 {
@@ -173,7 +174,7 @@ void VisitPropagation(PropagationSettings& p, Visit& visit)
 } // namespace config
 
 template <class Visit>
-void Configuration::ForEachSetting(Visit visit)
+void Settings::ForEachSetting(Visit visit)
 {
     visit("Center pos/Lat", centreLat, 55.6875);
     visit("Center pos/Lon", centreLon, 12.625);

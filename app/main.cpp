@@ -1,14 +1,22 @@
+#include "app/CommandLine.h"
+#include "app/ConsoleApp.h"
+#include "app/WxKavApp.h"
 #include "render/PictureFile.h"
-#include "ui/WxKavApp.h"
 
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 
-wxIMPLEMENT_APP_NO_MAIN(WxKavApp);
-
 namespace
 {
+app::CommandLine theCommandLine;
+
+template <class App>
+wxAppConsole* NewApp()
+{
+    return new App(theCommandLine);
+}
+
 /// An outside program that asks for a key would wait for ever: it inherits an empty standard input.
 void EmptyStandardInput()
 {
@@ -23,7 +31,8 @@ void EmptyStandardInput()
 
 int main(int argc, char** argv)
 {
-    ui::CommandLine& line = WxKavApp::commandLine = ui::ParseCommandLine(argc, argv);
+    theCommandLine = app::ParseCommandLine(argc, argv);
+    const app::CommandLine& line = theCommandLine;
     if (line.exitStatus)
         return *line.exitStatus;
     if (line.render && !render::PictureTypeOf(wxString::From8BitData(line.render->c_str())))
@@ -32,6 +41,7 @@ int main(int argc, char** argv)
         return 1;
     }
     EmptyStandardInput();
+    wxAppConsole::SetInitializerFunction(line.render ? NewApp<app::ConsoleApp> : NewApp<WxKavApp>);
     int toolkitArgc = 1;
     const int status = wxEntry(toolkitArgc, argv);
     return status < 0 ? 1 : status;

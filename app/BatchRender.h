@@ -1,14 +1,13 @@
 #pragma once
 
-#include "config/Configuration.h"
+#include "config/Settings.h"
 
 #include <chrono>
-#include <memory>
 
-namespace ui
+namespace app
 {
 /**
- * Creates a map without showing a window and writes it to a picture file.
+ * Makes a map and writes it to a picture file.
  *
  * Every message goes to standard error as "kavmap: " and its text, and so does the toolkit's log; the steps go there
  * when it is a terminal.
@@ -20,5 +19,5 @@ namespace ui
  * @param[in] voacaplLimit after which voacapl is ended; the picture is then written without its overlay.
  * @return exit status: 0 written, 1 nothing written, 2 written although something failed.
  */
-int RenderToFile(std::unique_ptr<Configuration> settings, const wxString& path, std::chrono::seconds voacaplLimit);
-} // namespace ui
+int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit);
+} // namespace app

@@ -1,0 +1,89 @@
+#include "app/BatchRender.h"
+
+#include "maker/MapMaker.h"
+#include "propagation/InputRules.h"
+#include "render/PictureFile.h"
+
+#include <wx/log.h>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace app
+{
+namespace
+{
+int messageCount = 0;
+
+void Report(const wxString& message)
+{
+    ++messageCount;
+    std::fprintf(stderr, "kavmap: %s\n", message.utf8_str().data());
+}
+
+class LogToStandardError : public wxLog
+{
+protected:
+    void DoLogTextAtLevel(wxLogLevel level, const wxString& text) override
+    {
+        if (level <= wxLOG_Message)
+            Report(text);
+    }
+    void DoLogRecord(wxLogLevel level, const wxString& text, const wxLogRecordInfo&) override
+    {
+        DoLogTextAtLevel(level, text);
+    }
+};
+
+void Warn(const wxString& text)
+{
+    std::fprintf(stderr, "kavmap: warning: %s\n", text.utf8_str().data());
+}
+
+/// Warns of what voacapl will not read as it stands in the settings.
+void WarnOfInput(const PropagationSettings& settings)
+{
+    if (!settings.show || settings.useExternalResult)
+        return;
+    for (const propagation::InputFinding& finding : propagation::CheckInput(settings))
+        Warn(wxString("Propagation/") + finding.key + ": " + finding.Text());
+}
+
+class Printer : public MapListener
+{
+public:
+    explicit Printer(std::chrono::seconds voacaplLimit) : m_voacaplLimit(voacaplLimit) {}
+
+private:
+    void OnError(const wxString& text) override { Report(text); }
+    void OnWarning(const wxString& text) override { Warn(text); }
+    void OnStep(const wxString& text) override
+    {
+        if (!text.empty() && isatty(STDERR_FILENO))
+            std::fprintf(stderr, "%s\n", text.utf8_str().data());
+    }
+    bool OnWaiting(std::chrono::milliseconds waited) override
+    {
+        if (waited < m_voacaplLimit)
+            return true;
+        Report(wxString::Format("voacapl was ended after %lld s. The map has no propagation overlay.",
+                                static_cast<long long>(m_voacaplLimit.count())));
+        return false;
+    }
+
+    const std::chrono::seconds m_voacaplLimit;
+};
+} // namespace
+
+int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit)
+{
+    delete wxLog::SetActiveTarget(new LogToStandardError);
+    WarnOfInput(settings.propagation);
+    Printer printer(voacaplLimit);
+    MapPicture picture;
+    MapMaker maker(settings, picture, printer);
+    const bool written = maker.MakeMap() == MapMaker::Creation::Finished && render::SavePicture(picture.Take(), path);
+    wxLog::FlushActive();
+    return !written ? 1 : messageCount > 0 ? 2 : 0;
+}
+} // namespace app

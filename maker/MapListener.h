@@ -1,0 +1,49 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include <chrono>
+
+/// Whoever wants to know what a MapMaker does: a window, or the command line.
+class MapListener
+{
+public:
+    virtual ~MapListener() = default;
+
+    /// A creation begins: the map that there was is gone.
+    virtual void OnCreationBegun() {}
+
+    /// There is a new map, white as yet, of so many pixels a side.
+    virtual void OnNewMap(int /*side*/) {}
+
+    /// What is being done now; an empty text when it is done.
+    virtual void OnStep(const wxString& text) = 0;
+
+    /// The time that the greyline is drawn for, and where the sun stands.
+    virtual void OnSun(const wxString&) {}
+
+    /// A message for the user.
+    virtual void OnError(const wxString& text) = 0;
+
+    /// What is not right about an overlay that is drawn nevertheless.
+    virtual void OnWarning(const wxString&) {}
+
+    /// Around the making of a propagation overlay, in which OnWaiting() may be called.
+    virtual void OnPropagationBegun() {}
+    virtual void OnPropagationEnded() {}
+
+    /// Called again and again while voacapl runs; false ends it, and whoever answers so tells the user.
+    virtual bool OnWaiting(std::chrono::milliseconds /*waited*/) { return true; }
+
+    /// Rows of the base picture that are done, from 0 to all.
+    virtual void OnRows(int /*done*/, int /*all*/) {}
+
+    /// The last of the rows is done, and the picture with it.
+    virtual void OnRowsDone() {}
+
+    /// The picture is another one than before.
+    virtual void OnPictureChanged() {}
+
+    /// The greyline is drawn and to be seen.
+    virtual void OnGreylineShown() {}
+};

@@ -1,0 +1,119 @@
+#include "maker/MapMaker.h"
+
+#include "config/DataFile.h"
+#include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
+#include "render/Style.h"
+
+#include <wx/dcmemory.h>
+#include <wx/log.h>
+#include <wx/wfstream.h>
+
+namespace
+{
+/// The picture on the screen grows by so many rows at a time.
+constexpr int kBandRows = 100;
+
+int MeasureCompassText(const wxString& fontDescription)
+{
+    wxBitmap pixel(1, 1);
+    wxMemoryDC dc(pixel);
+    dc.SetFont(render::FontFromSetting(fontDescription));
+    return dc.GetTextExtent("123400").y;
+}
+
+wxImage LoadPicture(const wxString& name)
+{
+    // A picture that can't be loaded gets one message, the program's own.
+    const wxLogNull silent;
+    wxImage image;
+    wxFile file;
+    if (!OpenDataFile(file, name))
+        return image;
+    wxFileInputStream bytes(file);
+    wxBufferedInputStream buffered(bytes);
+    image.LoadFile(buffered);
+    return image;
+}
+} // namespace
+
+MapMaker::MapMaker(Settings& settings, MapPicture& picture, MapListener& listener)
+    : m_settings(settings), m_picture(picture), m_listener(listener)
+{
+}
+
+MapMaker::Creation MapMaker::MakeMap()
+{
+    if (m_settings.size < render::kMinMapSize || m_settings.size > render::kMaxMapSize)
+    {
+        m_listener.OnError("Size must be between 100 and 8000 pixels.\nIt might fail with large pixel values.");
+        return Creation::ImpossibleSize;
+    }
+    m_picture.mapReady = false;
+    m_listener.OnStep("Creating Map");
+    m_listener.OnCreationBegun();
+    m_layer.reset();
+    if (!NewMap() || !DrawBaseMaps())
+        return Creation::Stopped;
+    DrawLayers();
+    m_layer.reset();
+    DrawOverlays();
+    m_listener.OnStep("Finished...");
+    m_picture.mapReady = true;
+    return Creation::Finished;
+}
+
+bool MapMaker::NewMap()
+{
+    m_picture.Clear();
+    m_view = render::MakeMapView(m_settings, MeasureCompassText(m_settings.compass.text.font));
+    m_picture.mapBitmap = render::NewWhiteBitmap(m_view->frame.mapSize);
+    if (!m_picture.mapBitmap)
+    {
+        m_listener.OnError("Error creating bitmap in function OnCreateMap0");
+        return false;
+    }
+    m_picture.mapReady = true;
+    m_listener.OnNewMap(m_view->frame.mapSize);
+    return true;
+}
+
+bool MapMaker::DrawBaseMaps()
+{
+    bool builtIn = true;
+    for (std::size_t i = 0; i < m_settings.sourceBitmaps.size(); ++i)
+    {
+        if (!m_settings.sourceBitmaps[i].show)
+            continue;
+        const wxImage image = LoadPicture(m_settings.sourceBitmaps[i].file);
+        if (!image.IsOk())
+        {
+            m_listener.OnError(wxString::Format("Error creating bitmap in function OnCreateMap%zu", i + 1));
+            return false;
+        }
+        ReprojectBaseMap(render::WorldPicture(image));
+        builtIn = false;
+    }
+    if (builtIn)
+        ReprojectBaseMap(render::BuiltInWorld());
+    return true;
+}
+
+void MapMaker::ReprojectBaseMap(const render::WorldPicture& source)
+{
+    const int size = m_view->frame.mapSize;
+    const geo::RowSampler rows = render::BaseMapRows(*m_view, source);
+    m_listener.OnRows(0, size);
+    for (int first = 0; first < size; first += kBandRows)
+    {
+        const int end = std::min(first + kBandRows, size);
+        {
+            const render::BitmapPixels pixels(*m_picture.mapBitmap);
+            for (int row = first; row < end; ++row)
+                rows.Row(row, pixels.Row(row));
+        }
+        m_listener.OnRows(end, size);
+        m_listener.OnPictureChanged();
+    }
+    m_listener.OnRowsDone();
+}

@@ -1,0 +1,102 @@
+#include "maker/MapMaker.h"
+
+#include "geo/SunCalc.h"
+#include "geo/Truncate.h"
+#include "propagation/Propagation.h"
+#include "render/Greyline.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace
+{
+/// In real time the propagation overlay follows the clock in this minute of every hour: the first after the one in
+/// which the run's hour is rounded up.
+constexpr int kPropagationMinute = 31;
+
+/// The month counted from 1; settings may hold any number.
+int MonthOf(const UtcTime& time)
+{
+    return std::min(time.month, std::numeric_limits<int>::max() - 1) + 1;
+}
+
+SunCalc::Result SunAt(const UtcTime& time, const AzimuthalProjection& station)
+{
+    const double day = SunCalc::DayNumber(time.day, MonthOf(time), time.year, time.hour, time.minute, time.second);
+    return SunCalc::Position(day, station.centreLonDeg, station.centreLatDeg);
+}
+
+wxString StatusOf(const UtcTime& time, const SunCalc::Result& sun)
+{
+    return wxString::Format("%04d-%02d-%02d %02d:%02d Z | SunAz %.3f | SunEl %.3f", time.year, MonthOf(time), time.day,
+                            time.hour, time.minute, sun.azimuth, sun.elevation);
+}
+} // namespace
+
+void MapMaker::DrawOverlays()
+{
+    const int timeMode = m_settings.greyzone.timeMode;
+    if (m_settings.greyzone.show && (timeMode == kRealTime || timeMode == kOnce))
+    {
+        greylineDrawn = true;
+        DrawGreyline();
+    }
+    if (m_settings.propagation.show)
+        DrawPropagation(true);
+}
+
+void MapMaker::DrawGreyline(bool isWanted)
+{
+    // A tick may come while voacapl runs.
+    if (!HasMap() || Propagation::IsBusy())
+        return;
+    if (greylineDrawn)
+        m_hourAngleDegree.reset();
+    const GreyzoneSettings& greyzone = m_settings.greyzone;
+    const bool once = greyzone.timeMode == kOnce;
+    const UtcTime time = once ? greyzone.once : UtcNow();
+    const SunCalc::Result sun = SunAt(time, m_view->projection);
+    m_listener.OnSun(StatusOf(time, sun));
+    if (!greylineDrawn && !isWanted)
+        return;
+    if (!once && !RememberHourAngle(geo::TruncateToInt64(sun.greenwichHourAngle)))
+        return;
+
+    greylineDrawn = false;
+    m_picture.showGreyline = false;
+    m_listener.OnStep("Drawing SunTerm...");
+    auto overlay = render::DrawGreyline(*m_view, greyzone, sun.SubSolarPoint());
+    if (!overlay)
+    {
+        m_listener.OnError("Error creating bitmap original function DrawSunTerm2");
+        return;
+    }
+    m_picture.greylineBitmap = std::move(overlay);
+    m_picture.showGreyline = true;
+    m_listener.OnStep("");
+    m_listener.OnGreylineShown();
+    m_listener.OnPictureChanged();
+}
+
+bool MapMaker::RememberHourAngle(std::int64_t degree)
+{
+    return std::exchange(m_hourAngleDegree, degree) != degree;
+}
+
+void MapMaker::DrawPropagation(bool selectionChanged)
+{
+    if (!HasMap() || Propagation::IsBusy() || (!selectionChanged && UtcNow().minute != kPropagationMinute))
+        return;
+    m_listener.OnStep("Drawing Prop...");
+    m_listener.OnPropagationBegun();
+    const Propagation overlay(m_picture, *m_view, m_settings,
+                              {[this](const wxString& step) { m_listener.OnStep(step); },
+                               [this](const wxString& error) { m_listener.OnError(error); }},
+                              [this](auto waited) { return m_listener.OnWaiting(waited); });
+    m_listener.OnPropagationEnded();
+    m_listener.OnStep("");
+    if (!overlay.Warning().empty())
+        m_listener.OnWarning(overlay.Warning());
+    m_listener.OnPictureChanged();
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <wx/bitmap.h>
+#include <wx/image.h>
+
+#include <memory>
+
+namespace render
+{
+/// An opaque bitmap as an image; an invalid image when there is not enough memory for it.
+wxImage ImageOf(wxBitmap& bitmap);
+
+/**
+ * An opaque bitmap as an image made in the bitmap's own memory, so that it needs none of its own.
+ *
+ * The bitmap must live as long as the image, and must not be drawn any more.
+ */
+wxImage TakeImageOf(wxBitmap& bitmap);
+
+/// A white bitmap of a map's side at screen depth; none when there is not enough memory for it.
+std::unique_ptr<wxBitmap> NewWhiteBitmap(int side);
+
+/// A bitmap of a map's side with opacity, its pixels still undefined; none when there is not enough memory for it.
+std::unique_ptr<wxBitmap> NewOverlayBitmap(int side);
+} // namespace render

@@ -1,0 +1,165 @@
+#include "maker/MapMaker.h"
+
+#include "tests/support/TemporaryHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <wx/utils.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace
+{
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+using testing::StartsWith;
+
+/// Makes small maps and keeps what the listener is told, one line a call. No window is there.
+class MapMakerTest : public testing::Test, protected MapListener
+{
+protected:
+    MapMakerTest()
+    {
+        settings.size = 200;
+        settings.meridians.show = settings.compass.show = settings.radials.show = false;
+        settings.greyzone.show = false;
+        settings.greyzone.timeMode = kOnce;
+    }
+
+    void OnCreationBegun() override { told.emplace_back("begun"); }
+    void OnNewMap(int side) override { told.push_back("map of " + std::to_string(side)); }
+    void OnStep(const wxString& text) override { told.push_back("step " + text.utf8_string()); }
+    void OnSun(const wxString& text) override { told.push_back("sun " + text.utf8_string()); }
+    void OnError(const wxString& text) override { told.push_back("error " + text.utf8_string()); }
+    void OnWarning(const wxString& text) override { told.push_back("warning " + text.utf8_string()); }
+    void OnRows(int done, int all) override
+    {
+        told.push_back("rows " + std::to_string(done) + " of " + std::to_string(all));
+    }
+    void OnRowsDone() override { told.emplace_back("rows done"); }
+    void OnPictureChanged() override { told.emplace_back("changed"); }
+    void OnGreylineShown() override { told.emplace_back("greyline"); }
+    void OnPropagationBegun() override { told.emplace_back("propagation begun"); }
+    void OnPropagationEnded() override { told.emplace_back("propagation ended"); }
+    bool OnWaiting(std::chrono::milliseconds) override { return ++asked < 5; }
+
+    /// Runs the outside program's stand-in.
+    void RunStandIn(const char* behaviour)
+    {
+        settings.propagation.show = true;
+        settings.propagation.grid = 0;
+        settings.propagation.directory = home.Path("data");
+        std::filesystem::create_directories(home.Path("data/areadata/default").utf8_string());
+        wxString path;
+        wxGetEnv("PATH", &path);
+        wxSetEnv("PATH", KAV_STAND_IN ":" + path);
+        wxSetEnv("KAV_STAND_IN", behaviour);
+        EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+        wxSetEnv("PATH", path);
+        wxUnsetEnv("KAV_STAND_IN");
+    }
+
+    /// The real result, of which only the first lines are left.
+    wxString CutResult(int lines) const
+    {
+        std::ifstream whole(KAV_TEST_DATA "/area_36x36.vg1");
+        std::string text;
+        for (std::string line; lines-- > 0 && std::getline(whole, line);)
+            text += line + "\n";
+        return home.Write("cut.vg1", text);
+    }
+
+    const TemporaryHome home;
+    Settings settings = DefaultSettings();
+    MapPicture picture;
+    MapMaker maker{settings, picture, *this};
+    std::vector<std::string> told;
+    int asked = 0;
+};
+
+TEST_F(MapMakerTest, TellsItsStepsInTheirOrder)
+{
+    settings.compass.show = true;
+    settings.compass.text.show = false;
+    EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    EXPECT_THAT(told, ElementsAre("step Creating Map", "begun", "map of 200", "rows 0 of 200", "rows 100 of 200",
+                                  "changed", "rows 200 of 200", "changed", "rows done", "step Drawing Compass...",
+                                  "changed", "step Finished..."));
+    EXPECT_TRUE(picture.mapReady);
+}
+
+TEST_F(MapMakerTest, LeavesEverythingAsItWasForAnImpossibleSize)
+{
+    ASSERT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    const wxBitmap* const before = picture.mapBitmap.get();
+    told.clear();
+    for (const long size : {99L, 8001L})
+    {
+        settings.size = size;
+        EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::ImpossibleSize);
+    }
+    EXPECT_EQ(picture.mapBitmap.get(), before);
+    EXPECT_TRUE(picture.mapReady);
+    EXPECT_EQ(told.size(), 2u);
+    EXPECT_THAT(told, testing::Each(StartsWith("error Size must be between 100 and 8000 pixels.")));
+}
+
+TEST_F(MapMakerTest, StopsAtABasePictureThatCannotBeLoaded)
+{
+    settings.sourceBitmaps[1] = {true, "gone.png"};
+    EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Stopped);
+    EXPECT_EQ(told.back(), "error Error creating bitmap in function OnCreateMap2");
+}
+
+TEST_F(MapMakerTest, TellsTheSunsPlaceAndThatTheGreylineIsShown)
+{
+    settings.greyzone.show = true;
+    settings.greyzone.once = {2026, 2, 20, 12, 0, 0};
+    EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    EXPECT_THAT(told, Contains(StartsWith("sun 2026-03-20 12:00 Z | SunAz ")));
+    EXPECT_THAT(told, Contains("greyline"));
+    EXPECT_TRUE(picture.showGreyline);
+}
+
+TEST_F(MapMakerTest, AsksWhileVoacaplRunsAndEndsItWhenTold)
+{
+    RunStandIn("hangs");
+    EXPECT_EQ(asked, 5);
+    EXPECT_THAT(told, AllOf(Contains("propagation begun"), Contains("propagation ended")));
+    EXPECT_THAT(told, Not(Contains(StartsWith("error")))); // who ends it says so
+    EXPECT_FALSE(picture.showPropagation);
+}
+
+TEST_F(MapMakerTest, TellsThatVoacaplFailed)
+{
+    RunStandIn("fails");
+    EXPECT_THAT(told, Contains("error Error calling VOACAP"));
+    EXPECT_FALSE(picture.showPropagation);
+}
+
+TEST_F(MapMakerTest, WarnsOfAResultThatIsNotWholeAndDrawsIt)
+{
+    settings.propagation.show = settings.propagation.useExternalResult = true;
+    settings.propagation.externalResult = KAV_TEST_DATA "/area_36x36.vg1";
+    ASSERT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    EXPECT_TRUE(picture.showPropagation);
+    EXPECT_THAT(told, Not(Contains(StartsWith("warning"))));
+    settings.propagation.externalResult = CutResult(800);
+    ASSERT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    EXPECT_TRUE(picture.showPropagation);
+    EXPECT_THAT(told, Contains(StartsWith("warning Result not whole: ")).Times(1));
+}
+
+TEST_F(MapMakerTest, DrawsAFileOfLabelsThatIsNotThereAsNothingButAnError)
+{
+    settings.texts[0].show = true;
+    settings.texts[0].file = "gone.dat";
+    EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    EXPECT_THAT(told, Contains("error Error opening file gone.dat"));
+    EXPECT_THAT(told, Not(Contains("step Plotting Text...")));
+}
+} // namespace
