@@ -100,7 +100,8 @@ TEST(CommandLine, KnowsItsOptionsByTheirNames)
     EXPECT_EQ(Parse({"--settings", "/dev/null"}).settings, "/dev/null");
     EXPECT_EQ(Parse({"--time=2026-03-20T12:30"}).time, (UtcTime{2026, 2, 20, 12, 30, 0}));
     EXPECT_EQ(Parse({"-r", "a.png"}).render, "a.png");
-    EXPECT_EQ(app::ParseCommandLine(0, nullptr).exitStatus, std::nullopt);
+    char* nothing[] = {nullptr};
+    EXPECT_EQ(app::ParseCommandLine(0, nothing).exitStatus, std::nullopt);
 }
 
 TEST(CommandLine, KeepsNothingOfALineBefore)

@@ -109,7 +109,7 @@ TEST_F(MapCreationTest, LeavesRoomForTheFiguresOfTheCompassInTheirFont)
         settings->zoom = 5000;
         Create();
         // The first dark pixel from the left in the middle row is the ring.
-        const auto& row = ColoursOf(*frame->Picture().mapBitmap)[100];
+        const auto row = ColoursOf(*frame->Picture().mapBitmap)[100];
         return std::ranges::find_if(row, [](render::Argb c) { return c == 0xFF000000; }) - row.begin();
     };
     for (const wxString font : {"Sans 8", "Sans 20"})
