@@ -2,7 +2,10 @@
 
 #include "config/QuietToolkit.h"
 #include "config/SettingKeys.h"
+#include "config/SpecialFile.h"
 #include "geo/Locator.h"
+
+#include <wx/log.h>
 
 #include <algorithm>
 #include <array>
@@ -11,7 +14,17 @@
 
 namespace
 {
-constexpr int kFiles = wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE;
+/// Why the user's file can't be one; none if it can.
+const char* ObstacleAt(const wxString& appName)
+{
+    return PipeOrDeviceAt(wxFileConfig::GetLocalFileName(appName).fn_str());
+}
+
+/// The user's file, unless one might wait for it for ever, and the system's.
+int FilesOf(const wxString& appName)
+{
+    return wxCONFIG_USE_GLOBAL_FILE | (ObstacleAt(appName) ? 0 : int{wxCONFIG_USE_LOCAL_FILE});
+}
 
 /// Texts come back as they were written: "$HOME" is not replaced while this lives.
 class VerbatimTexts
@@ -62,13 +75,16 @@ void WriteSetting(wxConfigBase& file, const wxString& key, const Value& member)
 } // namespace
 
 // The toolkit keeps quiet for as long as the base opens its files: damaged files are not reported.
-Configuration::Configuration(const wxString& appName) : wxFileConfig((QuietToolkit(), appName), "", "", "", kFiles)
+Configuration::Configuration(const wxString& appName)
+    : wxFileConfig((QuietToolkit(), appName), "", "", "", FilesOf(appName))
 {
+    if (const char* const obstacle = ObstacleAt(appName))
+        wxLogError("can't keep settings in '%s': %s", GetLocalFileName(appName), obstacle);
     ReadAll();
 }
 
 Configuration::Configuration(const wxString& appName, wxConfigBase& source)
-    : wxFileConfig((QuietToolkit(), appName), "", "", "", kFiles)
+    : wxFileConfig((QuietToolkit(), appName), "", "", "", FilesOf(appName))
 {
     ReadAllFrom(source);
 }

@@ -1,13 +1,23 @@
 #include "config/SpecialFile.h"
 
-#include <sys/stat.h>
+#include <filesystem>
+
+namespace
+{
+std::filesystem::file_status StatusOf(const char* path)
+{
+    std::error_code nobodyAsks;
+    return std::filesystem::status(path, nobodyAsks);
+}
+} // namespace
 
 const char* SpecialFileAt(const char* path)
 {
-    struct stat status
-    {
-    };
-    if (stat(path, &status) != 0 || S_ISREG(status.st_mode))
-        return nullptr;
-    return S_ISDIR(status.st_mode) ? "it is a directory" : "it is a pipe or a device";
+    return is_directory(StatusOf(path)) ? "it is a directory" : PipeOrDeviceAt(path);
+}
+
+const char* PipeOrDeviceAt(const char* path)
+{
+    const std::filesystem::file_status status = StatusOf(path);
+    return is_other(status) ? "it is a pipe or a device" : nullptr;
 }

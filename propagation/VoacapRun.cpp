@@ -1,5 +1,6 @@
 #include "propagation/VoacapRun.h"
 
+#include "config/SpecialFile.h"
 #include "propagation/AntennaName.h"
 #include "propagation/AreaInput.h"
 
@@ -74,7 +75,8 @@ int RunVoacap(const AreaFiles& files, Settings& settings, geo::LatLon transmitte
     const auto antennas = NamesOfAntennas(settings.propagation, reports);
     if (!antennas)
         return kFailed;
-    File input(wxFopen(files.input, "w"), &std::fclose);
+    // Whoever opens a pipe waits for somebody at its other end.
+    File input(PipeOrDeviceAt(files.input.fn_str()) ? nullptr : wxFopen(files.input, "w"), &std::fclose);
     if (input)
     {
         settings.propagation.engine = kVoacapEngine;

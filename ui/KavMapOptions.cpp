@@ -85,7 +85,10 @@ void KavMapOptions::LoadSettingsFile(wxCommandEvent&)
                         wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_CHANGE_DIR);
     if (dialog.ShowModal() != wxID_OK)
         return;
-    m_settings.ReadAllFrom(*OpenSettingsFile(dialog.GetPath()));
+    const auto file = OpenSettingsFile(dialog.GetPath());
+    if (!file)
+        return;
+    m_settings.ReadAllFrom(*file);
     TransferDataToWindow();
     m_settings.lastIniDirectory = wxFileName(dialog.GetPath()).GetPath();
 }
@@ -97,6 +100,8 @@ void KavMapOptions::SaveSettingsFile(wxCommandEvent&)
     if (dialog.ShowModal() != wxID_OK)
         return;
     const auto file = OpenSettingsFile(dialog.GetPath());
+    if (!file)
+        return;
     TransferDataFromWindow();
     m_settings.WriteAllTo(*file);
     // Only now: the file carries the directory that was remembered before.

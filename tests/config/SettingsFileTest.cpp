@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <wx/filefn.h>
 
 namespace
@@ -61,5 +62,16 @@ TEST(SettingsFile, ThatCannotBeReadGivesDefaultsSilently)
         EXPECT_EQ(settings.size, 900) << name;
     }
     EXPECT_EQ(log.Text(), "");
+}
+
+TEST(SettingsFile, IsNeverWaitedForInAPipe)
+{
+    const TemporaryHome home;
+    const wxString pipe = home.Path("pipe.ini");
+    ASSERT_EQ(mkfifo(pipe.fn_str(), 0600), 0);
+    const RecordedLog log;
+    EXPECT_FALSE(OpenSettingsFile(pipe));
+    EXPECT_TRUE(log.Text().Contains("can't open the settings file '" + pipe + "': it is a pipe or a device"));
+    EXPECT_TRUE(OpenSettingsFile("/dev/null"));
 }
 } // namespace

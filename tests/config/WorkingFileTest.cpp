@@ -4,6 +4,7 @@
 #include "config/QuietToolkit.h"
 #include "config/SettingsFile.h"
 
+#include "tests/support/RecordedLog.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -15,6 +16,7 @@
 
 #include <cstdlib>
 #include <ctime>
+#include <sys/stat.h>
 
 namespace
 {
@@ -198,5 +200,23 @@ TEST(WorkingFile, HasUtcAsOnceTimeInEveryTimeZone)
     }
     tzset();
     SetClock(before);
+}
+
+TEST(WorkingFile, IsNeverWaitedForInAPipe)
+{
+    const TemporaryHome home;
+    ASSERT_EQ(mkfifo(home.WorkingFile().fn_str(), 0600), 0);
+    const RecordedLog log;
+    {
+        Configuration settings("Kavdex");
+        EXPECT_EQ(settings.size, 900);
+        settings.WriteAll();
+    }
+    EXPECT_TRUE(log.Text().Contains("can't keep settings in '" + home.WorkingFile() + "': it is a pipe or a device"));
+    struct stat status
+    {
+    };
+    EXPECT_EQ(stat(home.WorkingFile().fn_str(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
 }
 } // namespace

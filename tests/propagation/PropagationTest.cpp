@@ -11,6 +11,7 @@
 
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace
@@ -375,6 +376,13 @@ TEST_F(PropagationTest, BelongsToTheMapNotToTheSettings)
     const Propagation again(picture, view, settings, {[](const wxString&) {}, [](const wxString&) {}});
     EXPECT_EQ(picture.propagationBitmap->GetSize(), wxSize(200, 200));
     EXPECT_EQ(home.Read(kInput), input);
+}
+
+TEST_F(PropagationTest, NeverWaitsForAPipeInPlaceOfTheInput)
+{
+    std::filesystem::remove(home.Path(kInput).utf8_string());
+    ASSERT_EQ(mkfifo(home.Path(kInput).fn_str(), 0600), 0);
+    EXPECT_THAT(Draw(), ElementsAre("File open error in Prop", "Error calling VOACAP"));
 }
 
 TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)

@@ -5,6 +5,8 @@
 #include <csignal>
 #include <filesystem>
 #include <sys/resource.h>
+#include <sys/stat.h>
+
 
 namespace
 {
@@ -195,5 +197,17 @@ TEST_F(OptionsFiles, StayWholeOnAFullDisk)
     EXPECT_NE(log.GetBuffer(), "");
     wxLog::SetActiveTarget(before);
     EXPECT_EQ(home.Read("mine.ini"), whole);
+}
+
+TEST_F(OptionsFiles, AreNeitherLoadedFromNorSavedToAPipe)
+{
+    const wxString pipe = home.Path("pipe.ini");
+    ASSERT_EQ(mkfifo(pipe.fn_str(), 0600), 0);
+    const wxLogNull silent;
+    settings.size = 123;
+    Load(pipe);
+    Save(pipe);
+    EXPECT_EQ(settings.size, 123);
+    EXPECT_EQ(settings.lastIniDirectory, "");
 }
 } // namespace
