@@ -1,5 +1,5 @@
 # Most of the time of a compilation goes into reading the headers of the toolkit and of the test library. Tests get them
-# read beforehand, the rooms only where they are built a second time: what a room includes is checked without.
+# read beforehand, and so do the rooms when they are compiled with the sanitizers: what a room includes is checked without.
 # Tests are not optimised: compiling them takes longer than running them.
 set(kav_test_options -O0)
 
@@ -8,7 +8,7 @@ function(kav_precompiled name header)
   cmake_parse_arguments(precompiled "" "" "OPTIONS;USES" ${ARGN})
   add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/Precompiled.cpp)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
-  target_link_libraries(${name} PRIVATE kav_wx_core ${precompiled_USES} kav_options)
+  target_link_libraries(${name} PRIVATE kav_wx_core kav_options ${precompiled_USES})
   target_compile_options(${name} PRIVATE ${precompiled_OPTIONS})
   target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/${header})
 endfunction()
@@ -19,6 +19,9 @@ if(KAV_TESTS)
 endif()
 if(KAV_PRECOMPILE_ROOMS)
   kav_precompiled(kav_precompiled_rooms Precompiled.h)
+endif()
+if(KAV_SANITIZE)
+  kav_precompiled(kav_precompiled_sanitized Precompiled.h USES kav_sanitizers)
 endif()
 
 # kav_use_precompiled(TARGET FROM USES library...): for a target that uses the toolkit's core library.
@@ -44,49 +47,70 @@ function(kav_alone out sources headers)
   set(${out} ${headers} PARENT_SCOPE)
 endfunction()
 
-# kav_room(NAME SOURCES file... HEADERS file... USES library...)
+# kav_room(NAME SOURCES file... HEADERS file... USES library... [INSIDE library...])
 #
-# One room of the house as the static library kav_NAME. Every header can be included alone: its source includes it
-# first, or it is compiled by itself.
+# One room of the house as the static library kav_NAME, with KAV_SANITIZE also as kav_NAME_sanitized. Every header can be
+# included alone: its source includes it first, or it is compiled by itself. What is used INSIDE no header shows.
 function(kav_room name)
-  cmake_parse_arguments(room "" "" "SOURCES;HEADERS;USES" ${ARGN})
+  cmake_parse_arguments(room "" "" "SOURCES;HEADERS;USES;INSIDE" ${ARGN})
   set(target kav_${name})
-  add_library(${target} STATIC ${room_SOURCES})
+  kav_library(${target} ${room_USES})
   kav_alone(alone "${room_SOURCES}" "${room_HEADERS}")
   target_sources(
     ${target} PUBLIC FILE_SET alone TYPE HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${alone})
-  target_compile_features(${target} PUBLIC cxx_std_20)
-  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(
-    ${target}
-    PUBLIC ${room_USES}
-    PRIVATE kav_options)
   set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ${KAV_VERIFY_HEADERS})
   if(KAV_PRECOMPILE_ROOMS)
     kav_use_precompiled(${target} kav_precompiled_rooms ${room_USES})
   endif()
+  if(KAV_SANITIZE)
+    kav_sanitized(uses ${room_USES})
+    kav_library(${target}_sanitized ${uses})
+    target_link_libraries(${target}_sanitized PUBLIC kav_sanitizers)
+    kav_use_precompiled(${target}_sanitized kav_precompiled_sanitized ${room_USES})
+  endif()
 endfunction()
 
-# kav_tests(NAME SOURCES file... USES library...)
-#
-# The tests of one room as one program. Each test runs in a process of its own, several at a time. Those that type, point
-# or look at the screen are named Screen... and have a display each: it has one keyboard focus and one pointer.
-function(kav_tests name)
-  cmake_parse_arguments(tests "" "" "SOURCES;USES" ${ARGN})
-  set(target tests_${name})
-  add_executable(${target} ${tests_SOURCES})
-  target_link_libraries(${target} PRIVATE ${tests_USES} kav_options)
-  target_compile_options(${target} PRIVATE ${kav_test_options})
-  kav_use_precompiled(${target} kav_precompiled_tests ${tests_USES})
-  set(common TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
-  gtest_discover_tests(
-    ${target} ${common}
-    TEST_FILTER -Screen*
-    TEST_LIST ${target}_list
-    PROPERTIES LABELS ${name} TIMEOUT 300)
-  gtest_discover_tests(
-    ${target} ${common}
-    TEST_FILTER Screen*
-    TEST_LIST ${target}_screen_list
-    PROPERTIES LABELS ${name} TIMEOUT 300 ENVIRONMENT KAV_OWN_DISPLAY=${PROJECT_SOURCE_DIR}/scripts/display)
+# The library of kav_room(), which uses ARGN.
+macro(kav_library target)
+  add_library(${target} STATIC ${room_SOURCES})
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(
+    ${target}
+    PUBLIC ${ARGN}
+    PRIVATE kav_options ${room_INSIDE})
+endmacro()
+
+# kav_sanitized(OUT library...): the same libraries, the rooms among them as they are built with the sanitizers.
+function(kav_sanitized out)
+  set(libraries)
+  foreach(library ${ARGN})
+    if(TARGET ${library}_sanitized)
+      set(library ${library}_sanitized)
+    endif()
+    list(APPEND libraries ${library})
+  endforeach()
+  set(${out} ${libraries} PARENT_SCOPE)
 endfunction()
+
+# kav_program(NAME SOURCES file... USES library...)
+#
+# A program in bin/, with KAV_SANITIZE also as NAME_sanitized in sanitized/bin/. Data files are found beside a program, in
+# ../share/kavmap; a build gets there by a link to the source tree.
+function(kav_program name)
+  cmake_parse_arguments(program "" "" "SOURCES;USES" ${ARGN})
+  kav_executable(${name} . ${program_USES})
+  if(KAV_SANITIZE)
+    kav_sanitized(uses ${program_USES})
+    kav_executable(${name}_sanitized sanitized ${uses})
+  endif()
+endfunction()
+
+macro(kav_executable target under)
+  add_executable(${target} ${program_SOURCES})
+  target_link_libraries(${target} PRIVATE ${ARGN} kav_options)
+  set(place ${PROJECT_BINARY_DIR}/${under})
+  set_target_properties(${target} PROPERTIES OUTPUT_NAME ${name} RUNTIME_OUTPUT_DIRECTORY ${place}/bin)
+  file(MAKE_DIRECTORY ${place}/share)
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/data ${place}/share/kavmap SYMBOLIC)
+endmacro()

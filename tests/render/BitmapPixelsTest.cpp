@@ -66,9 +66,8 @@ TEST(BitmapPixels, AreSeenByTheToolkitAtOnce)
 
 TEST(Bitmaps, GiveTheirMemoryBack)
 {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "AddressSanitizer keeps memory that was given back";
-#endif
+    if (UnderAddressSanitizer())
+        GTEST_SKIP() << "AddressSanitizer keeps memory that was given back";
     // A round takes up to 32 MB at a time, and 48 MB are left.
     const ScarceMemory scarce;
     for (int i = 0; i < 8; ++i)

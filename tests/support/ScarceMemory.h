@@ -2,10 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
 #include <fstream>
+
+/// Whether this program's rooms were built with AddressSanitizer. Tests themselves never are.
+inline bool UnderAddressSanitizer()
+{
+    return dlsym(RTLD_DEFAULT, "__asan_init") != nullptr;
+}
 
 /// While it lives, the process gets little more memory than it has: bitmaps of 6000 x 6000 pixels, 144 MB, are too
 /// much. (With AddressSanitizer its option allocator_may_return_null has to be set, as scripts/test does.)

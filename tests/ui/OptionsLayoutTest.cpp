@@ -39,14 +39,20 @@ protected:
         return book->GetPage(page);
     }
 
-    /// Seen from the dialog's outermost group: the dialog itself learns late when the window manager moves it. (Asked
-    /// itself, a group leaves its title out.)
+    /// Seen from the dialog's outermost group, which the window manager may move meanwhile: then again. (The dialog itself
+    /// learns late where it is, and a group that is asked itself leaves its title out.)
     static wxRect RectOf(const wxWindow* window)
     {
         const wxWindow* const top = wxGetTopLevelParent(const_cast<wxWindow*>(window));
         const wxWindow* const outermost = top->GetChildren().GetFirst()->GetData();
-        const wxPoint at = window->GetParent()->ClientToScreen(window->GetPosition());
-        return {at - outermost->ClientToScreen(wxPoint()), window->GetSize()};
+        wxPoint origin;
+        wxPoint at;
+        do
+        {
+            origin = outermost->ClientToScreen(wxPoint());
+            at = window->GetParent()->ClientToScreen(window->GetPosition());
+        } while (outermost->ClientToScreen(wxPoint()) != origin);
+        return {at - origin, window->GetSize()};
     }
 
     /// The number-th text or group of a page that begins so.
