@@ -2,6 +2,7 @@
 
 #include "maker/MapMaker.h"
 #include "propagation/InputRules.h"
+#include "render/MapRows.h"
 #include "render/PictureFile.h"
 
 #include <wx/log.h>
@@ -80,9 +81,9 @@ int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds 
     delete wxLog::SetActiveTarget(new LogToStandardError);
     WarnOfInput(settings.propagation);
     Printer printer(voacaplLimit);
-    MapPicture picture;
+    MapRows picture;
     MapMaker maker(settings, picture, printer);
-    const bool written = maker.MakeMap() == MapMaker::Creation::Finished && render::SavePicture(picture.Take(), path);
+    const bool written = maker.MakeMap() == MapMaker::Creation::Finished && render::SavePicture(picture, path);
     wxLog::FlushActive();
     return !written ? 1 : messageCount > 0 ? 2 : 0;
 }

@@ -1,6 +1,7 @@
 // The greyline as an overlay, ready to be laid over the map.
 
 #include "render/Greyline.h"
+#include "render/MapPicture.h"
 
 #include <benchmark/benchmark.h>
 
@@ -23,8 +24,9 @@ void GreylineOverlay(benchmark::State& state)
     greyzone.gradient = true;
     greyzone.darkeningGrey = 60;
     greyzone.darkeningNight = 30;
+    MapPicture picture;
     for (auto _ : state)
-        benchmark::DoNotOptimize(render::DrawGreyline(view, greyzone, {23.4, 40.0}));
+        picture.PutGreyline(std::make_unique<render::GreylineOverlay>(view, greyzone, geo::LatLon{23.4, 40.0}));
 }
 BENCHMARK(GreylineOverlay)->Arg(900)->Arg(4000)->Arg(8000)->Unit(benchmark::kMillisecond);
 } // namespace

@@ -4,6 +4,7 @@
 #include "render/BaseMap.h"
 #include "render/BitmapPixels.h"
 #include "render/Bitmaps.h"
+#include "render/MapPicture.h"
 
 #include <benchmark/benchmark.h>
 
@@ -124,8 +125,9 @@ void DrawOverlayPixels(benchmark::State& state)
     const ResultGrid result = ResultFile(36).Read();
     const ClassScale scale = ScaleOf(Defaults().propagation, result);
     const auto classes = WorldClasses(WorldValues(result), scale);
+    MapPicture picture;
     for (auto _ : state)
-        benchmark::DoNotOptimize(DrawOverlay(view, classes, scale, 120));
+        picture.PutPropagation(std::make_unique<Overlay>(view, classes, scale, 120));
 }
 BENCHMARK(DrawOverlayPixels)->Arg(900)->Arg(8000)->Unit(benchmark::kMillisecond);
 
@@ -148,11 +150,12 @@ void FromFileToOverlay(benchmark::State& state)
 {
     const MapView view = ViewOfSide(static_cast<int>(state.range(0)));
     const ResultFile file(36);
+    MapPicture picture;
     for (auto _ : state)
     {
         const ResultGrid result = file.Read();
         const ClassScale scale = ScaleOf(Defaults().propagation, result);
-        benchmark::DoNotOptimize(DrawOverlay(view, WorldClasses(WorldValues(result), scale), scale, 120));
+        picture.PutPropagation(std::make_unique<Overlay>(view, WorldClasses(WorldValues(result), scale), scale, 120));
     }
 }
 BENCHMARK(FromFileToOverlay)->Arg(900)->Arg(8000)->Unit(benchmark::kMillisecond);

@@ -1,6 +1,5 @@
 #include "maker/MapMaker.h"
 
-#include "render/Blend.h"
 #include "render/BorderLines.h"
 #include "render/Compass.h"
 #include "render/GridLabels.h"
@@ -179,17 +178,6 @@ wxDC* MapMaker::BeginLayer(const wxString& statusText, const wxColour& colour, i
 
 void MapMaker::EndLayer(long alpha)
 {
-    m_layer->BlendOnto(*m_picture.mapBitmap, static_cast<std::uint8_t>(alpha));
-    m_listener.OnPictureChanged();
-}
-
-void MapMaker::BlendLayer(wxImage layerImage, wxImage mapImage, int alpha)
-{
-    const int width = mapImage.GetWidth();
-    const int height = mapImage.GetHeight();
-    const std::size_t bytes = 3 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    render::BlendLayer({layerImage.GetData(), bytes}, {mapImage.GetData(), bytes}, width, height,
-                       static_cast<std::uint8_t>(alpha));
-    m_picture.mapBitmap = std::make_unique<wxBitmap>(mapImage);
+    m_picture.PutLayer(*m_layer, static_cast<std::uint8_t>(alpha));
     m_listener.OnPictureChanged();
 }

@@ -1,19 +1,16 @@
 #include "maker/MapMaker.h"
 
 #include "config/DataFile.h"
-#include "render/BitmapPixels.h"
-#include "render/Bitmaps.h"
 #include "render/Style.h"
 
 #include <wx/dcmemory.h>
 #include <wx/log.h>
 #include <wx/wfstream.h>
 
+#include <utility>
+
 namespace
 {
-/// The picture on the screen grows by so many rows at a time.
-constexpr int kBandRows = 100;
-
 int MeasureCompassText(const wxString& fontDescription)
 {
     wxBitmap pixel(1, 1);
@@ -37,7 +34,7 @@ wxImage LoadPicture(const wxString& name)
 }
 } // namespace
 
-MapMaker::MapMaker(Settings& settings, MapPicture& picture, MapListener& listener)
+MapMaker::MapMaker(Settings& settings, MapSurface& picture, MapListener& listener)
     : m_settings(settings), m_picture(picture), m_listener(listener)
 {
 }
@@ -65,10 +62,8 @@ MapMaker::Creation MapMaker::MakeMap()
 
 bool MapMaker::NewMap()
 {
-    m_picture.Clear();
     m_view = render::MakeMapView(m_settings, MeasureCompassText(m_settings.compass.text.font));
-    m_picture.mapBitmap = render::NewWhiteBitmap(m_view->frame.mapSize);
-    if (!m_picture.mapBitmap)
+    if (!m_picture.NewMap(m_view->frame.mapSize))
     {
         m_listener.OnError("Error creating bitmap in function OnCreateMap0");
         return false;
@@ -99,21 +94,15 @@ bool MapMaker::DrawBaseMaps()
     return true;
 }
 
-void MapMaker::ReprojectBaseMap(const render::WorldPicture& source)
+void MapMaker::ReprojectBaseMap(render::WorldPicture source)
 {
     const int size = m_view->frame.mapSize;
-    const geo::RowSampler rows = render::BaseMapRows(*m_view, source);
     m_listener.OnRows(0, size);
-    for (int first = 0; first < size; first += kBandRows)
-    {
-        const int end = std::min(first + kBandRows, size);
-        {
-            const render::BitmapPixels pixels(*m_picture.mapBitmap);
-            for (int row = first; row < end; ++row)
-                rows.Row(row, pixels.Row(row));
-        }
-        m_listener.OnRows(end, size);
-        m_listener.OnPictureChanged();
-    }
+    m_picture.PutBase(std::make_unique<render::BaseMap>(*m_view, std::move(source)),
+                      [this, size](int done)
+                      {
+                          m_listener.OnRows(done, size);
+                          m_listener.OnPictureChanged();
+                      });
     m_listener.OnRowsDone();
 }

@@ -5,7 +5,7 @@
 #include "render/BaseMap.h"
 #include "render/GridLines.h"
 #include "render/Layer.h"
-#include "render/MapPicture.h"
+#include "render/MapSurface.h"
 #include "render/MapView.h"
 
 #include <functional>
@@ -22,7 +22,7 @@ class MapMaker
 {
 public:
     /// @param[out] picture what the maps are drawn on.
-    MapMaker(Settings& settings, MapPicture& picture, MapListener& listener);
+    MapMaker(Settings& settings, MapSurface& picture, MapListener& listener);
 
     /// How a creation ended.
     enum class Creation
@@ -36,16 +36,7 @@ public:
     Creation MakeMap();
 
     /// Whether there is a map to draw on.
-    bool HasMap() const { return m_view && m_picture.mapBitmap; }
-
-    /**
-     * Blends a layer onto a picture of the map and makes that the map: every pixel of the layer that is not white, but
-     * for the outermost frame.
-     *
-     * @param[in] layerImage, mapImage of one size.
-     * @param[in] alpha opacity; its low eight bits count, and 0 leaves the map as it is.
-     */
-    void BlendLayer(wxImage layerImage, wxImage mapImage, int alpha);
+    bool HasMap() const { return m_view && m_picture.HasMap(); }
 
     // The layers of a map. Without a map those that say so tell an error, the others do nothing.
     void DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
@@ -83,7 +74,7 @@ protected:
 private:
     bool NewMap();
     bool DrawBaseMaps();
-    void ReprojectBaseMap(const render::WorldPicture& source);
+    void ReprojectBaseMap(render::WorldPicture source);
     void DrawLayers();
     void DrawOverlays();
 
@@ -102,7 +93,7 @@ private:
     bool RememberHourAngle(std::int64_t degree); ///< whether it differs from the one before
 
     Settings& m_settings;
-    MapPicture& m_picture;
+    MapSurface& m_picture;
     MapListener& m_listener;
     std::optional<MapView> m_view;                 ///< of the map in the picture
     std::optional<render::Layer> m_layer;          ///< for as long as a map is being made

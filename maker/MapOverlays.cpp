@@ -66,14 +66,11 @@ void MapMaker::DrawGreyline(bool isWanted)
     greylineDrawn = false;
     m_picture.showGreyline = false;
     m_listener.OnStep("Drawing SunTerm...");
-    auto overlay = render::DrawGreyline(*m_view, greyzone, sun.SubSolarPoint());
-    if (!overlay)
+    if (!m_picture.PutGreyline(std::make_unique<render::GreylineOverlay>(*m_view, greyzone, sun.SubSolarPoint())))
     {
         m_listener.OnError("Error creating bitmap original function DrawSunTerm2");
         return;
     }
-    m_picture.greylineBitmap = std::move(overlay);
-    m_picture.showGreyline = true;
     m_listener.OnStep("");
     m_listener.OnGreylineShown();
     m_listener.OnPictureChanged();

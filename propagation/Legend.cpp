@@ -6,6 +6,7 @@
 #include <wx/dcmemory.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace propagation
 {
@@ -70,35 +71,47 @@ bool IsDark(render::Argb pixel)
 }
 
 /// Whether most of a place on an overlay is dark.
-bool IsMostlyDark(const render::BitmapPixels& overlay, const wxRect& place)
+bool IsMostlyDark(const render::PictureRows& overlay, const wxRect& place)
 {
-    const wxRect visible = place.Intersect(wxRect(0, 0, overlay.Width(), overlay.Height()));
+    const wxRect visible = place.Intersect(wxRect(0, 0, overlay.Side(), overlay.Side()));
+    std::vector<render::Argb> row(static_cast<std::size_t>(overlay.Side()));
     std::ptrdiff_t dark = 0;
     for (int y = visible.GetTop(); y <= visible.GetBottom(); ++y)
+    {
+        overlay.Row(y, row);
         dark += std::ranges::count_if(
-            overlay.Row(y).subspan(static_cast<std::size_t>(visible.x), static_cast<std::size_t>(visible.width)),
+            std::span(row).subspan(static_cast<std::size_t>(visible.x), static_cast<std::size_t>(visible.width)),
             IsDark);
+    }
     return 2 * dark > static_cast<std::ptrdiff_t>(visible.width) * visible.height;
+}
+
+render::PixelGrid PixelsOf(wxBitmap& bitmap)
+{
+    const render::BitmapPixels pixels(bitmap);
+    render::PixelGrid grid{pixels.Width(), pixels.Height(), {}};
+    for (int y = 0; y < grid.height; ++y)
+        grid.pixels.insert(grid.pixels.end(), pixels.Row(y).begin(), pixels.Row(y).end());
+    return grid;
 }
 } // namespace
 
-Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, wxBitmap& overlay)
+Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, const render::PictureRows& overlay)
 {
-    const render::BitmapPixels ground(overlay);
     const wxString title = TitleOf(parameter);
     const Metrics metrics(title, scale, font);
     const int h = metrics.textHeight;
     Legend legend;
-    legend.top = ground.Height() - kTitleRow * h;
-    legend.bitmap = TransparentBitmap(std::min(metrics.Width(), ground.Width()), (kTitleRow - kLowestRow + 1) * h);
-    wxMemoryDC dc(legend.bitmap);
+    legend.top = overlay.Side() - kTitleRow * h;
+    wxBitmap bitmap = TransparentBitmap(std::min(metrics.Width(), overlay.Side()), (kTitleRow - kLowestRow + 1) * h);
+    wxMemoryDC dc(bitmap);
     render::SwitchSmoothingOff(dc);
     dc.SetFont(font);
     dc.SetPen(*wxBLACK_PEN);
     const auto write = [&](const wxString& text, int y)
     {
         const wxRect place(wxPoint(kTextX, legend.top + y), dc.GetTextExtent(text));
-        dc.SetTextForeground(IsMostlyDark(ground, place) ? *wxWHITE : *wxBLACK);
+        dc.SetTextForeground(IsMostlyDark(overlay, place) ? *wxWHITE : *wxBLACK);
         dc.DrawText(text, kTextX, y);
     };
     write(title, 0);
@@ -111,6 +124,7 @@ Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& fo
         dc.DrawRectangle(metrics.labelWidth + kBoxGap, y, metrics.BoxWidth(), h - 1);
     }
     dc.SelectObject(wxNullBitmap);
+    legend.marks = PixelsOf(bitmap);
     return legend;
 }
 } // namespace propagation

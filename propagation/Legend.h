@@ -1,16 +1,17 @@
 #pragma once
 
 #include "propagation/ClassScale.h"
+#include "render/CompiledPicture.h"
+#include "render/PictureRows.h"
 
-#include <wx/bitmap.h>
 #include <wx/font.h>
 
 namespace propagation
 {
-/// The legend of an overlay, opaque on a transparent ground, and where it lies.
+/// The legend of an overlay and where it lies.
 struct Legend
 {
-    wxBitmap bitmap;
+    render::PixelGrid marks{}; ///< 0 where there is nothing
     int top = 0; ///< the map's row of its first row, negative where the map has no room; its left edge is the map's
 };
 
@@ -20,5 +21,5 @@ struct Legend
  *
  * @param[in] overlay for which it is; the legend is not made wider.
  */
-Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, wxBitmap& overlay);
+Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, const render::PictureRows& overlay);
 } // namespace propagation

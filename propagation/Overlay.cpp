@@ -1,11 +1,10 @@
 #include "propagation/Overlay.h"
 
-#include "geo/RowSampler.h"
 #include "propagation/WorldGrid.h"
 #include "render/BitmapPixels.h"
-#include "render/Bitmaps.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace propagation
 {
@@ -21,10 +20,28 @@ Argb WithAlpha(Argb opaque, unsigned alpha)
     return render::PremultipliedPixel((opaque >> 16) & 255, (opaque >> 8) & 255, opaque & 255, alpha);
 }
 
-/// The pixel of each class, and of none.
-using Palette = std::array<Argb, ColourScale::kSteps + 1>;
+/// The pixels of classes; the one may be written in place of the other.
+template <class Palette>
+void Colour(std::span<const std::uint32_t> classes, const Palette& palette, std::span<Argb> pixels)
+{
+    std::ranges::transform(classes, pixels.begin(), [&palette](std::uint32_t k) { return palette[k]; });
+}
 
-Palette PaletteOf(const ClassScale& scale, unsigned alpha)
+template <class Palette>
+std::vector<Argb> Coloured(std::span<const std::uint32_t> classes, const Palette& palette)
+{
+    std::vector<Argb> pixels(classes.size());
+    Colour(classes, palette, pixels);
+    return pixels;
+}
+
+geo::WorldCells Lattice(std::span<const std::uint32_t> points)
+{
+    return geo::WorldCells::Lattice(points.data(), kPointsPerDegree);
+}
+} // namespace
+
+Overlay::Palette Overlay::PaletteOf(const ClassScale& scale, unsigned alpha)
 {
     Palette palette;
     for (std::size_t k = 0; k < scale.colours.size(); ++k)
@@ -34,68 +51,50 @@ Palette PaletteOf(const ClassScale& scale, unsigned alpha)
     return palette;
 }
 
-/// The pixels of classes; the one may be written in place of the other.
-void Colour(std::span<const std::uint32_t> classes, const Palette& palette, std::span<Argb> pixels)
+Overlay::Overlay(const MapView& view, std::vector<std::uint32_t> worldClasses, const ClassScale& scale,
+                 std::uint8_t alpha)
+    : m_side(view.frame.mapSize),
+      m_alpha(alpha),
+      m_opaque(PaletteOf(scale, 255)),
+      m_seeThrough(PaletteOf(scale, alpha)),
+      m_worldClasses(std::move(worldClasses)),
+      m_worldPixels(Coloured(m_worldClasses, m_seeThrough)),
+      m_classes(view.Disc(), Lattice(m_worldClasses), kNoClass),
+      m_colours(view.Disc(), Lattice(m_worldPixels), m_seeThrough[kNoClass])
 {
-    std::ranges::transform(classes, pixels.begin(), [&palette](std::uint32_t k) { return palette[k]; });
 }
 
-geo::WorldCells Lattice(std::span<const std::uint32_t> points)
+void Overlay::PutLegend(Legend legend)
 {
-    return geo::WorldCells::Lattice(points.data(), kPointsPerDegree);
+    m_legend = std::move(legend);
 }
 
-bool IsOutermost(int index, int side)
+void Overlay::Row(int y, std::span<Argb> out) const
 {
-    return index == 0 || index == side - 1;
+    ColourRow(y, out);
+    if (y >= m_legend.top && y < m_legend.top + m_legend.marks.height)
+        CoverByLegend(y, out);
 }
-} // namespace
 
-std::unique_ptr<wxBitmap> DrawOverlay(const MapView& view, std::span<const std::uint32_t> worldClasses,
-                                      const ClassScale& scale, std::uint8_t alpha)
+void Overlay::ColourRow(int y, std::span<Argb> out) const
 {
-    const int side = view.frame.mapSize;
-    auto overlay = render::NewOverlayBitmap(side);
-    if (!overlay)
-        return nullptr;
-    const Palette opaque = PaletteOf(scale, 255);
-    const Palette seeThrough = PaletteOf(scale, alpha);
-    std::vector<Argb> worldPixels(worldClasses.size());
-    Colour(worldClasses, seeThrough, worldPixels);
-    const geo::RowSampler classes(view.Disc(), Lattice(worldClasses), kNoClass);
-    const geo::RowSampler colours(view.Disc(), Lattice(worldPixels), seeThrough[kNoClass]);
-    const render::BitmapPixels pixels(*overlay);
-    for (int y = 0; y < side; ++y)
+    if (IsOutermost(y))
     {
-        const auto row = pixels.Row(y);
-        if (IsOutermost(y, side))
-        {
-            classes.Row(y, row);
-            Colour(row, opaque, row);
-            continue;
-        }
-        colours.Row(y, row);
-        row.front() = opaque[classes.Pixel(0, y)];
-        row.back() = opaque[classes.Pixel(side - 1, y)];
+        m_classes.Row(y, out);
+        Colour(out, m_opaque, out);
+        return;
     }
-    return overlay;
+    m_colours.Row(y, out);
+    out.front() = m_opaque[m_classes.Pixel(0, y)];
+    out.back() = m_opaque[m_classes.Pixel(m_side - 1, y)];
 }
 
-void PutLegend(wxBitmap& overlay, Legend& legend, std::uint8_t alpha)
+void Overlay::CoverByLegend(int y, std::span<Argb> out) const
 {
-    const render::BitmapPixels from(legend.bitmap);
-    const render::BitmapPixels to(overlay);
-    for (int y = std::max(0, -legend.top); y < from.Height() && legend.top + y < to.Height(); ++y)
-    {
-        const int targetY = legend.top + y;
-        for (int x = 0; x < std::min(from.Width(), to.Width()); ++x)
-        {
-            const Argb pixel = from.Row(y)[static_cast<std::size_t>(x)];
-            if (pixel != (pixel | 0xFF000000)) // nothing there
-                continue;
-            const bool outermost = IsOutermost(x, to.Width()) || IsOutermost(targetY, to.Height());
-            to.Row(targetY)[static_cast<std::size_t>(x)] = outermost ? pixel : WithAlpha(pixel, alpha);
-        }
-    }
+    const auto width = static_cast<std::size_t>(m_legend.marks.width);
+    const Argb* const marks = &m_legend.marks.pixels[static_cast<std::size_t>(y - m_legend.top) * width];
+    for (std::size_t x = 0; x < std::min(width, out.size()); ++x)
+        if (marks[x] >> 24 == 255)
+            out[x] = IsOutermost(y) || IsOutermost(static_cast<int>(x)) ? marks[x] : WithAlpha(marks[x], m_alpha);
 }
 } // namespace propagation

@@ -6,6 +6,9 @@
 
 #include <wx/filename.h>
 
+#include <memory>
+#include <utility>
+
 namespace
 {
 bool isBusy = false;
@@ -23,7 +26,7 @@ public:
 
 using namespace propagation;
 
-Propagation::Propagation(MapPicture& picture, const MapView& view, Settings& settings, Reports reports,
+Propagation::Propagation(MapSurface& picture, const MapView& view, Settings& settings, Reports reports,
                          KeepWaiting keepWaiting)
     : m_picture(picture),
       m_view(view),
@@ -78,22 +81,19 @@ void Propagation::Draw(const ResultGrid& result)
     const auto alpha = static_cast<std::uint8_t>(p.alpha & 255);
     m_reports.step("Calling Regrid...");
     const ClassScale scale = ScaleOf(p, result);
-    const auto classes = WorldClasses(WorldValues(result), scale);
+    auto classes = WorldClasses(WorldValues(result), scale);
     m_reports.step("Creating prop img...");
-    auto overlay = DrawOverlay(m_view, classes, scale, alpha);
-    if (!overlay)
+    auto overlay = std::make_unique<Overlay>(m_view, std::move(classes), scale, alpha);
+    if (p.legend == 1)
+    {
+        const wxFont font = render::FontFromSetting(m_settings.compass.text.font);
+        overlay->PutLegend(DrawLegend(ParameterOf(p.parameter), scale, font, *overlay));
+    }
+    if (!m_picture.PutPropagation(std::move(overlay)))
     {
         m_reports.error("Error creating bitmap original function Prop");
         return;
     }
-    if (p.legend == 1)
-    {
-        const wxFont font = render::FontFromSetting(m_settings.compass.text.font);
-        Legend legend = DrawLegend(ParameterOf(p.parameter), scale, font, *overlay);
-        PutLegend(*overlay, legend, alpha);
-    }
-    m_picture.propagationBitmap = std::move(overlay);
-    m_picture.showPropagation = true;
     if (result.withoutValue > 0)
         m_warning = wxString::Format("Result not whole: %zu of %zu points lack a value and count as 0",
                                      result.withoutValue, result.values.size());

@@ -3,7 +3,7 @@
 #include "propagation/Messages.h"
 #include "propagation/ResultReader.h"
 #include "propagation/VoacapRun.h"
-#include "render/MapPicture.h"
+#include "render/MapSurface.h"
 #include "render/MapView.h"
 
 /**
@@ -22,7 +22,7 @@ public:
      * @param[in,out] settings the engine is set to VOACAP when voacapl is run.
      * @pre no other object is at work, see IsBusy(); a second one does nothing.
      */
-    Propagation(MapPicture& picture, const MapView& view, Settings& settings, propagation::Reports reports,
+    Propagation(MapSurface& picture, const MapView& view, Settings& settings, propagation::Reports reports,
                 propagation::KeepWaiting keepWaiting = {});
     Propagation(const Propagation&) = delete;
     Propagation& operator=(const Propagation&) = delete;
@@ -38,7 +38,7 @@ private:
     void DrawResultIn(const wxString& path);
     void Draw(const propagation::ResultGrid& result);
 
-    MapPicture& m_picture;
+    MapSurface& m_picture;
     const MapView& m_view;
     Settings& m_settings;
     const propagation::Reports m_reports;

@@ -3,6 +3,7 @@
 #include "geo/RowSampler.h"
 #include "render/CompiledPicture.h"
 #include "render/MapView.h"
+#include "render/PictureRows.h"
 
 #include <wx/image.h>
 
@@ -41,4 +42,24 @@ const WorldPicture& BuiltInWorld();
  * @param[in] world must outlive the result.
  */
 geo::RowSampler BaseMapRows(const MapView& view, const WorldPicture& world);
+
+/// The same as a picture that holds the world's.
+class BaseMap : public PictureRows
+{
+public:
+    BaseMap(const MapView& view, WorldPicture world)
+        : m_world(std::move(world)), m_side(view.frame.mapSize), m_rows(BaseMapRows(view, m_world))
+    {
+    }
+    BaseMap(const BaseMap&) = delete;
+    BaseMap& operator=(const BaseMap&) = delete;
+
+    int Side() const override { return m_side; }
+    void Row(int y, std::span<Argb> out) const override { m_rows.Row(y, out); }
+
+private:
+    WorldPicture m_world;
+    int m_side;
+    geo::RowSampler m_rows;
+};
 } // namespace render

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/PictureRows.h"
+
 #include <wx/bitmap.h>
 #include <wx/image.h>
 
@@ -10,12 +12,8 @@ namespace render
 /// An opaque bitmap as an image; an invalid image when there is not enough memory for it.
 wxImage ImageOf(wxBitmap& bitmap);
 
-/**
- * An opaque bitmap as an image made in the bitmap's own memory, so that it needs none of its own.
- *
- * The bitmap must live as long as the image, and must not be drawn any more.
- */
-wxImage TakeImageOf(wxBitmap& bitmap);
+/// A picture as an image; an invalid image when there is not enough memory for it.
+wxImage ImageOf(const PictureRows& picture);
 
 /// A white bitmap of a map's side at screen depth; none when there is not enough memory for it.
 std::unique_ptr<wxBitmap> NewWhiteBitmap(int side);

@@ -32,4 +32,12 @@ constexpr Argb BlendPixel(Argb map, Argb layer, unsigned alpha)
     { return BlendChannel((map >> shift) & 255, (layer >> shift) & 255, alpha) << shift; };
     return 0xFF000000U | channel(16) | channel(8) | channel(0);
 }
+
+/// A pixel with opacity laid over one of an opaque map, rounded as the toolkit does it.
+constexpr Argb PixelOver(Argb map, Argb over)
+{
+    const unsigned clear = 255 - (over >> 24);
+    const Argb under = PremultipliedPixel((map >> 16) & 255, (map >> 8) & 255, map & 255, clear);
+    return 0xFF000000U | ((under + over) & 0x00FFFFFFU);
+}
 } // namespace render

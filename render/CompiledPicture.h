@@ -6,7 +6,7 @@
 
 namespace render
 {
-/// Opaque pixels, row by row from the top.
+/// Pixels, row by row from the top.
 struct PixelGrid
 {
     int width;

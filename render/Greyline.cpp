@@ -1,19 +1,17 @@
 #include "render/Greyline.h"
 
 #include "geo/Angles.h"
-#include "render/BitmapPixels.h"
-#include "render/Bitmaps.h"
 #include "render/Layer.h"
 
-#include <wx/dcmemory.h>
-
+#include <algorithm>
 #include <array>
-#include <vector>
 
 namespace render
 {
 namespace
 {
+constexpr Argb kYellow = OpaquePixel(255, 255, 0);
+
 /// Overlay pixels by grey level: the darker, the more opaque; the lightest is clear.
 std::array<Argb, 256> OverlayPixels()
 {
@@ -23,37 +21,24 @@ std::array<Argb, 256> OverlayPixels()
     return pixels;
 }
 
-void PaintShade(wxBitmap& overlay, const geo::GreylineRows& rows)
-{
-    static const std::array<Argb, 256> kOverlay = OverlayPixels();
-    const BitmapPixels pixels(overlay);
-    const auto side = static_cast<std::size_t>(pixels.Width());
-    std::vector<std::uint8_t> grey(side);
-    const auto opaque = [&grey](std::size_t x) { return OpaquePixel(grey[x], grey[x], grey[x]); };
-    for (int y = 0; y < pixels.Height(); ++y)
-    {
-        const std::span<Argb> row = pixels.Row(y);
-        rows.Row(y, grey);
-        const bool frame = y == 0 || y == pixels.Height() - 1;
-        for (std::size_t x = 0; x < side; ++x)
-            row[x] = frame ? opaque(x) : kOverlay[grey[x]];
-        row.front() = opaque(0);
-        row.back() = opaque(side - 1);
-    }
-}
-
-/// Eight rays, ten pixels long, and a disc.
-void DrawSun(wxBitmap& overlay, geo::Pixel at)
+/// The pixels of the sun around a place: eight rays, ten pixels long, and a disc.
+std::vector<geo::Pixel> SunAt(geo::Pixel place)
 {
     static constexpr std::array<geo::Pixel, 8> kRays{
         {{0, -10}, {7, -7}, {10, 0}, {7, 7}, {0, 10}, {-7, 7}, {-10, 0}, {-7, -7}}};
-    wxMemoryDC dc(overlay);
-    SwitchSmoothingOff(dc);
-    dc.SetPen(wxPen(wxColour(255, 255, 0)));
+    constexpr int kMiddle = 12;
+    Layer sheet(2 * kMiddle + 1);
+    wxDC& dc = sheet.Begin(*wxYELLOW, 1);
     dc.SetBrush(*wxYELLOW_BRUSH);
     for (const geo::Pixel ray : kRays)
-        dc.DrawLine(at.x, at.y, at.x + ray.x, at.y + ray.y);
-    dc.DrawEllipse(at.x - 4, at.y - 4, 8, 8);
+        dc.DrawLine(kMiddle, kMiddle, kMiddle + ray.x, kMiddle + ray.y);
+    dc.DrawEllipse(kMiddle - 4, kMiddle - 4, 8, 8);
+    std::vector<geo::Pixel> pixels;
+    sheet.TakeMarks(255).ForEachPixel(
+        [&](geo::Pixel pixel) {
+            pixels.push_back({place.x - kMiddle + pixel.x, place.y - kMiddle + pixel.y});
+        });
+    return pixels;
 }
 } // namespace
 
@@ -66,15 +51,28 @@ geo::GreylineShade ShadeOf(const GreyzoneSettings& greyzone, geo::LatLon subSola
             static_cast<double>(greyzone.darkeningNight)};
 }
 
-std::unique_ptr<wxBitmap> DrawGreyline(const MapView& view, const GreyzoneSettings& greyzone, geo::LatLon subSolarPoint)
+GreylineOverlay::GreylineOverlay(const MapView& view, const GreyzoneSettings& greyzone, geo::LatLon subSolarPoint)
+    : m_side(view.frame.mapSize), m_shade(view.Disc(), ShadeOf(greyzone, subSolarPoint))
 {
-    auto overlay = NewOverlayBitmap(view.frame.mapSize);
-    if (!overlay)
-        return nullptr;
-    const geo::GreylineShade shade = ShadeOf(greyzone, subSolarPoint);
-    PaintShade(*overlay, geo::GreylineRows(view.Disc(), shade));
-    if (const auto sun = view.VisiblePixel(shade.sun.lon, shade.sun.lat))
-        DrawSun(*overlay, *sun);
-    return overlay;
+    const geo::LatLonRad sun = ShadeOf(greyzone, subSolarPoint).sun;
+    if (const auto place = view.VisiblePixel(sun.lon, sun.lat))
+        m_sun = SunAt(*place);
+}
+
+void GreylineOverlay::Row(int y, std::span<Argb> out) const
+{
+    static const std::array<Argb, 256> kOverlay = OverlayPixels();
+    std::vector<std::uint8_t> grey(out.size());
+    const auto opaque = [](unsigned level) { return OpaquePixel(level, level, level); };
+    m_shade.Row(y, grey);
+    if (y == 0 || y == m_side - 1)
+        std::ranges::transform(grey, out.begin(), opaque);
+    else
+        std::ranges::transform(grey, out.begin(), [](std::uint8_t level) { return kOverlay[level]; });
+    out.front() = opaque(grey.front());
+    out.back() = opaque(grey.back());
+    for (const geo::Pixel pixel : m_sun)
+        if (pixel.y == y && pixel.x >= 0 && pixel.x < m_side)
+            out[static_cast<std::size_t>(pixel.x)] = kYellow;
 }
 } // namespace render

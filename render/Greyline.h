@@ -3,10 +3,9 @@
 #include "geo/GreylineRows.h"
 #include "geo/Locator.h"
 #include "render/MapView.h"
+#include "render/PictureRows.h"
 
-#include <wx/bitmap.h>
-
-#include <memory>
+#include <vector>
 
 namespace render
 {
@@ -16,9 +15,18 @@ geo::GreylineShade ShadeOf(const GreyzoneSettings& greyzone, geo::LatLon subSola
 /**
  * The greyline as an overlay with opacity: clear by day, darker through the greyzone into the night, and a yellow sun
  * over its sub-solar point. The outermost one-pixel frame is opaque.
- *
- * @return a bitmap of the map's side; none when there is not enough memory for it.
  */
-std::unique_ptr<wxBitmap> DrawGreyline(const MapView& view, const GreyzoneSettings& greyzone,
-                                       geo::LatLon subSolarPoint);
+class GreylineOverlay : public PictureRows
+{
+public:
+    GreylineOverlay(const MapView& view, const GreyzoneSettings& greyzone, geo::LatLon subSolarPoint);
+
+    int Side() const override { return m_side; }
+    void Row(int y, std::span<Argb> out) const override;
+
+private:
+    int m_side;
+    geo::GreylineRows m_shade;
+    std::vector<geo::Pixel> m_sun; ///< the pixels that it covers, some of them beyond the picture
+};
 } // namespace render

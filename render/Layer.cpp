@@ -1,7 +1,6 @@
 #include "render/Layer.h"
 
 #include "render/BitmapPixels.h"
-#include "render/Blend.h"
 #include "render/HugePages.h"
 
 #include <cairo.h>
@@ -9,7 +8,6 @@
 
 #include <algorithm>
 #include <span>
-#include <utility>
 
 namespace render
 {
@@ -34,18 +32,25 @@ bool IsBlockBlank(const Pixel* pixels)
     return any == 0;
 }
 
-/// Calls visit(x, pixel) for the pixels that are not blank, and makes them blank.
-template <class Pixel, class Visit>
-void TakePixels(std::span<Pixel> row, Visit visit)
+template <class Pixel>
+std::size_t NextMark(std::span<const Pixel> row, std::size_t x)
 {
-    for (std::size_t block = 0; block < row.size(); block += kBlock)
+    while (x < row.size() && row[x] == 0)
+        x += x % kBlock == 0 && x + kBlock <= row.size() && IsBlockBlank(&row[x]) ? kBlock : 1;
+    return x;
+}
+
+/// Calls visit(first, end, pixel) for neighbours that are alike and not blank, and makes them blank.
+template <class Pixel, class Visit>
+void TakeRuns(std::span<Pixel> row, Visit visit)
+{
+    for (std::size_t x = 0; (x = NextMark(std::span<const Pixel>(row), x)) < row.size();)
     {
-        const std::size_t end = std::min(block + kBlock, row.size());
-        if (end - block == kBlock && IsBlockBlank(&row[block]))
-            continue;
-        for (std::size_t x = block; x < end; ++x)
-            if (const Pixel pixel = std::exchange(row[x], Pixel{0}))
-                visit(x, pixel);
+        const std::size_t first = x;
+        const Pixel pixel = row[first];
+        while (x < row.size() && row[x] == pixel)
+            row[x++] = 0;
+        visit(first, x, pixel);
     }
 }
 
@@ -84,25 +89,29 @@ wxDC& Layer::Begin(const wxColour& colour, int lineWidth)
     return *m_dc;
 }
 
-/// Calls visit(x, y, colour) for every pixel that is drawn in another colour than white, and leaves the sheet blank.
+/// Calls visit(y, run) for the marks in another colour than white, but for the outermost frame, and leaves the sheet
+/// blank.
 template <class Visit>
-void Layer::TakeMarks(Visit visit)
+void Layer::TakeSheet(Visit visit)
 {
     cairo_surface_flush(m_sheet.get());
     unsigned char* row = cairo_image_surface_get_data(m_sheet.get());
     const Argb ink = OpaquePixel(m_colour.Red(), m_colour.Green(), m_colour.Blue());
+    const auto side = static_cast<std::size_t>(m_side);
     for (int y = 0; y < m_side; ++y, row += cairo_image_surface_get_stride(m_sheet.get()))
     {
-        const auto mark = [&](std::size_t x, Argb colour)
+        const auto mark = [&](std::size_t first, std::size_t end, Argb colour)
         {
-            if (colour != kWhite)
-                visit(static_cast<int>(x), y, colour);
+            first = std::max<std::size_t>(first, 1);
+            end = std::min(end, side - 1);
+            if (colour != kWhite && y > 0 && y < m_side - 1 && first < end)
+                visit(y, Run{static_cast<std::uint16_t>(first), static_cast<std::uint16_t>(end - first), colour});
         };
-        const auto side = static_cast<std::size_t>(m_side);
         if (m_inks == Inks::One)
-            TakePixels(std::span(row, side), [&](std::size_t x, std::uint8_t) { mark(x, ink); });
+            TakeRuns(std::span(row, side),
+                     [&](std::size_t first, std::size_t end, std::uint8_t) { mark(first, end, ink); });
         else
-            TakePixels(std::span(reinterpret_cast<Argb*>(row), side), mark);
+            TakeRuns(std::span(reinterpret_cast<Argb*>(row), side), mark);
     }
     cairo_surface_mark_dirty(m_sheet.get());
 }
@@ -110,15 +119,27 @@ void Layer::TakeMarks(Visit visit)
 void Layer::BlendOnto(wxBitmap& map, std::uint8_t alpha)
 {
     const BitmapPixels pixels(map);
-    const auto isInner = [last = m_side - 1](int place) { return place > 0 && place < last; };
-    TakeMarks(
-        [&](int x, int y, Argb colour)
+    TakeSheet(
+        [&](int y, const Run& run)
         {
-            if (alpha == 0 || !isInner(x) || !isInner(y))
-                return;
-            Argb& under = pixels.Row(y)[static_cast<std::size_t>(x)];
-            under = BlendPixel(under, colour, alpha);
+            if (alpha > 0)
+                run.BlendOnto(pixels.Row(y), alpha);
         });
+}
+
+LayerMarks Layer::TakeMarks(std::uint8_t alpha)
+{
+    LayerMarks marks(alpha);
+    marks.BeginRow();
+    TakeSheet(
+        [&, last = 0](int y, const Run& run) mutable
+        {
+            for (; last < y; ++last)
+                marks.BeginRow();
+            if (alpha > 0)
+                marks.Add(run);
+        });
+    return marks;
 }
 
 void SwitchSmoothingOff(wxDC& dc)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/LayerMarks.h"
+
 #include <wx/bitmap.h>
 #include <wx/colour.h>
 #include <wx/dcgraph.h>
@@ -20,7 +22,8 @@ enum class Inks
 /**
  * The sheet on which a layer is drawn before it is blended onto the map. It can serve one layer after the other.
  *
- * Begin(), draw, BlendOnto(); what is not drawn on, or is drawn in white, is transparent.
+ * Begin(), draw, BlendOnto() or TakeMarks(); what is not drawn on, or is drawn in white, is transparent, and so is the
+ * outermost frame of one pixel.
  */
 class Layer
 {
@@ -45,9 +48,12 @@ public:
     /// Ends the layer: blends it onto the map, of the same size, and leaves the sheet blank again.
     void BlendOnto(wxBitmap& map, std::uint8_t alpha);
 
+    /// Ends the layer: gives what it would blend, for later, and leaves the sheet blank again.
+    LayerMarks TakeMarks(std::uint8_t alpha);
+
 private:
     template <class Visit>
-    void TakeMarks(Visit visit);
+    void TakeSheet(Visit visit);
 
     struct Destroy
     {

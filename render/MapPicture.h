@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/MapSurface.h"
+
 #include <wx/bitmap.h>
 #include <wx/dc.h>
 #include <wx/image.h>
@@ -7,12 +9,19 @@
 #include <memory>
 
 /**
- * The map and the two overlays that can change without it, and how they lie over each other.
+ * The map and the two overlays as bitmaps, which can be seen while they are made, and how they lie over each other.
  *
  * Whoever changes a bitmap or a flag of a picture that is on the screen asks its canvas to refresh.
  */
-struct MapPicture
+struct MapPicture : MapSurface
 {
+    bool NewMap(int side) override;
+    bool HasMap() const override { return mapBitmap != nullptr; }
+    void PutBase(std::unique_ptr<render::PictureRows> base, const std::function<void(int)>& rowsDone) override;
+    void PutLayer(render::Layer& layer, std::uint8_t alpha) override;
+    bool PutGreyline(std::unique_ptr<render::PictureRows> overlay) override;
+    bool PutPropagation(std::unique_ptr<render::PictureRows> overlay) override;
+
     /// Forgets all bitmaps and hides the overlays.
     void Clear();
 
@@ -23,18 +32,10 @@ struct MapPicture
     /// @pre there is a map bitmap.
     wxImage Compose() const;
 
-    /// The same, in the memory of the map itself: the map is gone with it, and the image is valid only as long as this.
-    /// @pre there is a map bitmap.
-    wxImage Take();
-
     std::unique_ptr<wxBitmap> mapBitmap;
     std::unique_ptr<wxBitmap> greylineBitmap;
     std::unique_ptr<wxBitmap> propagationBitmap;
-    bool mapReady = false;        ///< the map may be shown
-    bool showGreyline = false;    ///< the greyline is shown over it
-    bool showPropagation = false; ///< the propagation overlay is shown over both
 
 private:
     bool IsMapAlone() const { return mapReady && !showGreyline && !showPropagation; }
-    std::unique_ptr<wxBitmap> Composed() const; ///< none when there is not enough memory for it
 };

@@ -1,6 +1,8 @@
 #include "render/PictureFile.h"
 
 #include "config/SpecialFile.h"
+#include "render/Bitmaps.h"
+#include "render/RowFile.h"
 
 #include <wx/filefn.h>
 #include <wx/log.h>
@@ -11,6 +13,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -94,12 +97,15 @@ wxString TextOf(ErrorNumber error)
     return error == 0 ? wxString("the toolkit can't encode it") : wxString(wxSysErrorMsgStr(error));
 }
 
+using WritePicture = std::function<bool(wxOutputStream& stream)>;
+
 /**
  * Writes a picture beside its place and renames it, so that a failure leaves an older one alone.
  *
+ * @param[in] writePicture returns whether it could.
  * @return why that failed; empty if it did not.
  */
-wxString WriteInPlaceOf(const wxString& target, const wxImage& picture, wxBitmapType type)
+wxString WriteInPlaceOf(const wxString& target, const WritePicture& writePicture)
 {
     if (const char* const obstacle = SpecialFileAt(target.fn_str()))
         return obstacle;
@@ -109,7 +115,7 @@ wxString WriteInPlaceOf(const wxString& target, const wxImage& picture, wxBitmap
         return TextOf(errno);
     PictureStream stream(file);
     const wxLogNull oneMessageIsEnough;
-    const bool isWritten = picture.SaveFile(stream, type) && stream.FirstError() == 0 && stream.Close();
+    const bool isWritten = writePicture(stream) && stream.FirstError() == 0 && stream.Close();
     if (isWritten && TakePlaceOf(target, beside))
         return "";
     const wxString reason = TextOf(isWritten ? errno : stream.FirstError());
@@ -123,6 +129,14 @@ wxString Resolved(const wxString& path)
     std::error_code failed;
     const auto place = std::filesystem::weakly_canonical(static_cast<const char*>(path.fn_str()), failed);
     return failed ? path : wxString(place.c_str(), *wxConvFileName);
+}
+
+bool Save(const wxString& path, const WritePicture& writePicture)
+{
+    const wxString reason = WriteInPlaceOf(Resolved(path), writePicture);
+    if (!reason.empty())
+        wxLogError("Couldn't write the picture %s: %s", path, reason);
+    return reason.empty();
 }
 } // namespace
 
@@ -149,9 +163,14 @@ bool SavePicture(wxImage picture, const wxString& path)
         return false;
     }
     picture.SetOption(wxIMAGE_OPTION_QUALITY, 90);
-    const wxString reason = WriteInPlaceOf(Resolved(path), picture, *PictureTypeOf(path));
-    if (!reason.empty())
-        wxLogError("Couldn't write the picture %s: %s", path, reason);
-    return reason.empty();
+    return Save(path, [&](wxOutputStream& stream) { return picture.SaveFile(stream, *PictureTypeOf(path)); });
+}
+
+bool SavePicture(const PictureRows& picture, const wxString& path)
+{
+    const wxBitmapType type = *PictureTypeOf(path);
+    if (!HasRowFormat(type))
+        return SavePicture(ImageOf(picture), path);
+    return Save(path, [&](wxOutputStream& stream) { return WriteRows(stream, picture, type); });
 }
 } // namespace render

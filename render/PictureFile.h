@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/PictureRows.h"
+
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
@@ -22,4 +24,7 @@ std::optional<wxBitmapType> PictureTypeOf(const wxString& path);
  * @return whether it was written.
  */
 bool SavePicture(wxImage picture, const wxString& path);
+
+/// The same for a picture that is computed row by row; it is written so where the format allows it.
+bool SavePicture(const PictureRows& picture, const wxString& path);
 } // namespace render

@@ -1,5 +1,6 @@
 #include "ui/WxKavFrame.h"
 
+#include "render/Blend.h"
 #include "ui/Ids.h"
 #include "ui/Native.h"
 
@@ -64,6 +65,17 @@ void WxKavFrame::TakeCentreFromLocatorField()
         stored = kScratchLocator;
     Configuration::LatLonToLocator(stored, m_settings->centreLat, m_settings->centreLon);
     m_locator->ChangeValue(stored);
+}
+
+void WxKavFrame::BlendLayer(wxImage layerImage, wxImage mapImage, int alpha)
+{
+    const int width = mapImage.GetWidth();
+    const int height = mapImage.GetHeight();
+    const std::size_t bytes = 3 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    render::BlendLayer({layerImage.GetData(), bytes}, {mapImage.GetData(), bytes}, width, height,
+                       static_cast<std::uint8_t>(alpha));
+    m_canvas->mapBitmap = std::make_unique<wxBitmap>(mapImage);
+    OnPictureChanged();
 }
 
 void WxKavFrame::EnableCreationTools(bool enable)

@@ -38,8 +38,14 @@ public:
     /// What the canvas shows.
     const MapPicture& Picture() const { return *m_canvas; }
 
-    /// The finished picture as an image, which needs no memory beyond the map's: see MapPicture::Take().
-    wxImage TakePicture() { return m_canvas->Take(); }
+    /**
+     * Blends a layer onto a picture of the map and makes that the map: every pixel of the layer that is not white, but
+     * for the outermost frame.
+     *
+     * @param[in] layerImage, mapImage of one size.
+     * @param[in] alpha opacity; its low eight bits count, and 0 leaves the map as it is.
+     */
+    void BlendLayer(wxImage layerImage, wxImage mapImage, int alpha);
 
     /// Told the text of every step of a creation; none by default.
     std::function<void(const wxString& step)> onStep;

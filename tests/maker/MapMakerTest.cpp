@@ -1,5 +1,6 @@
 #include "maker/MapMaker.h"
 
+#include "render/MapPicture.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>

@@ -4,6 +4,7 @@
 #include "propagation/WorldGrid.h"
 #include "render/BitmapPixels.h"
 #include "tests/propagation/PlaceAt.h"
+#include "tests/support/Pictures.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -45,7 +46,7 @@ protected:
 
     Pixels Draw(std::uint8_t alpha = 120) const
     {
-        const auto overlay = DrawOverlay(View(), WorldClasses(values, Scale()), Scale(), alpha);
+        const auto overlay = BitmapOf(Overlay(View(), WorldClasses(values, Scale()), Scale(), alpha));
         return PixelsOf(*overlay);
     }
 

@@ -2,6 +2,7 @@
 
 #include "render/BitmapPixels.h"
 #include "render/Layer.h"
+#include "render/MapPicture.h"
 #include "tests/propagation/PlaceAt.h"
 #include "tests/support/TemporaryHome.h"
 

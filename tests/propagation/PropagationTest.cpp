@@ -1,6 +1,7 @@
 #include "propagation/Propagation.h"
 
 #include "propagation/AreaInput.h"
+#include "render/MapPicture.h"
 #include "tests/propagation/Results.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/ScarceMemory.h"

@@ -3,6 +3,7 @@
 #include "render/BitmapPixels.h"
 #include "render/Bitmaps.h"
 #include "tests/support/LiteralMap.h"
+#include "tests/support/Pictures.h"
 
 #include <algorithm>
 
@@ -37,7 +38,7 @@ protected:
 
     std::unique_ptr<wxBitmap> Draw(geo::LatLon sun) const
     {
-        return render::DrawGreyline(View(), settings.greyzone, sun);
+        return BitmapOf(render::GreylineOverlay(View(), settings.greyzone, sun));
     }
 
     /// Degrees from the sub-solar point to the place under a pixel, by unit vectors; negative outside the disc.

@@ -118,65 +118,38 @@ TEST(MapPicture, OfAMapAloneNeedsNoSecondBitmap)
     MapPicture picture;
     picture.mapBitmap = render::NewWhiteBitmap(3900); // 61 MB; an image takes 46
     picture.mapReady = true;
+    const ScarceMemory scarce;
+    EXPECT_TRUE(picture.Compose().IsOk());
+}
+
+/// A picture whose pixels all differ.
+class Numbered : public render::PictureRows
+{
+public:
+    explicit Numbered(int side) : m_side(side) {}
+    int Side() const override { return m_side; }
+    void Row(int y, std::span<render::Argb> out) const override
     {
-        const ScarceMemory scarce;
-        EXPECT_TRUE(picture.Compose().IsOk());
+        for (int x = 0; x < m_side; ++x)
+            out[static_cast<std::size_t>(x)] = 0xFF000000U | static_cast<unsigned>((y * m_side + x + 1) * 7919);
     }
-    const auto* const memory =
-        reinterpret_cast<const unsigned char*>(render::BitmapPixels(*picture.mapBitmap).Row(0).data());
-    EXPECT_EQ(picture.Take().GetData(), memory);
-}
 
-TEST(MapPicture, IsTakenAsItIsShownAndGoneThen)
-{
-    for (const bool greyline : {false, true})
-        for (const bool propagation : {false, true})
-            for (const bool ready : {false, true})
-            {
-                MapPicture picture = BluePictureWithOverlays();
-                picture.mapReady = ready;
-                picture.showGreyline = greyline;
-                picture.showPropagation = propagation;
-                wxBitmap shown(picture.Compose());
-                wxBitmap taken(picture.Take());
-                EXPECT_TRUE(SamePicture(ColoursOf(taken), ColoursOf(shown)));
-                EXPECT_FALSE(picture.mapReady || picture.showGreyline || picture.showPropagation);
-            }
-}
+private:
+    int m_side;
+};
 
-/// Bitmaps of several sizes whose pixels all differ, with their colours.
-class ImagesOfBitmaps : public testing::Test
+TEST(ImagesOfPictures, HaveEveryPixel)
 {
-protected:
-    template <class MakeImage>
-    static void ExpectEveryPixel(MakeImage make)
+    for (const int side : {1, 2, 3, 4, 5, 6, 7, 101, 128})
     {
-        for (const int side : {1, 2, 3, 4, 5, 6, 7, 101, 128})
+        const auto bitmap = BitmapOf(Numbered(side));
+        const wxImage converted = bitmap->ConvertToImage();
+        for (const wxImage& image : {render::ImageOf(*bitmap), render::ImageOf(Numbered(side))})
         {
-            wxBitmap bitmap(side, side);
-            {
-                const render::BitmapPixels pixels(bitmap);
-                for (int y = 0; y < side; ++y)
-                    for (int x = 0; x < side; ++x)
-                        pixels.Row(y)[static_cast<std::size_t>(x)] =
-                            0xFF000000U | static_cast<unsigned>((y * side + x + 1) * 7919);
-            }
-            const wxImage converted = bitmap.ConvertToImage();
-            const wxImage image = make(bitmap);
             ASSERT_EQ(image.GetSize(), converted.GetSize());
             EXPECT_EQ(0, std::memcmp(image.GetData(), converted.GetData(), static_cast<std::size_t>(3 * side * side)))
                 << side;
         }
     }
-};
-
-TEST_F(ImagesOfBitmaps, HaveEveryPixel)
-{
-    ExpectEveryPixel(render::ImageOf);
-}
-
-TEST_F(ImagesOfBitmaps, HaveEveryPixelInTheBitmapsOwnMemory)
-{
-    ExpectEveryPixel(render::TakeImageOf);
 }
 } // namespace

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "render/BitmapPixels.h"
+#include "render/Bitmaps.h"
+#include "render/PictureRows.h"
 
 #include <gtest/gtest.h>
 
 #include <wx/bitmap.h>
 
+#include <memory>
 #include <vector>
 
 /// The colours of a picture by row and column, without opacity.
@@ -38,4 +41,14 @@ inline testing::AssertionResult SamePicture(const Colours& got, const Colours& e
     if (count > 0)
         result << "; " << count << " pixels differ";
     return result;
+}
+
+/// A picture as a bitmap with opacity.
+inline std::unique_ptr<wxBitmap> BitmapOf(const render::PictureRows& picture)
+{
+    auto bitmap = render::NewOverlayBitmap(picture.Side());
+    const render::BitmapPixels pixels(*bitmap);
+    for (int y = 0; y < picture.Side(); ++y)
+        picture.Row(y, pixels.Row(y));
+    return bitmap;
 }
