@@ -1,8 +1,9 @@
 #pragma once
 
-// The keys of the settings file with their defaults: the one place where they are listed. Whoever goes through all
-// settings includes it.
+// The keys of the settings file with their defaults: the one place where they are listed, but for the colour scales of
+// the propagation parameters. Whoever goes through all settings includes it.
 
+#include "config/PropagationParameters.h"
 #include "config/Settings.h"
 
 namespace config
@@ -12,49 +13,20 @@ inline wxString Numbered(const char* key, std::size_t number)
     return wxString::Format("%s%zu", key, number);
 }
 
-/// How the keys of a propagation colour scale are named, and what they default to; highest step first.
-struct ScaleKeys
-{
-    std::array<const char*, ColourScale::kSteps> colourKeys;
-    std::array<long, ColourScale::kSteps> colours;
-    std::array<const char*, ColourScale::kSteps> valueKeys;
-    std::array<const char*, ColourScale::kSteps> values;
-};
-
-// The colours of the first scale are named by S-units and its values by numbers; files rely on it.
-inline constexpr std::array<ScaleKeys, 4> kScaleKeys{{
-    {{"S9P", "S9", "S8", "S7", "S6", "S5", "S4", "S3", "S2", "S1"},
-     {255, 65280, 16711680, 65535, 16776960, 16711935, 128, 32768, 8388608, 0},
-     {"S10", "S09", "S08", "S07", "S06", "S05", "S04", "S03", "S02", "S01"},
-     {"-93", "-103", "-109", "-115", "-121", "-127", "-133", "-139", "-145", "-151"}},
-    {{"SNR10", "SNR09", "SNR08", "SNR07", "SNR06", "SNR05", "SNR04", "SNR03", "SNR02", "SNR01"},
-     {6579400, 6604900, 13132900, 6605000, 13158500, 13133000, 6579300, 13158650, 16409700, 0},
-     {"SNR10", "SNR09", "SNR08", "SNR07", "SNR06", "SNR05", "SNR04", "SNR03", "SNR02", "SNR01"},
-     {"70", "60", "50", "40", "30", "20", "10", "0", "-10", "-20"}},
-    {{"MUF10", "MUF09", "MUF08", "MUF07", "MUF06", "MUF05", "MUF04", "MUF03", "MUF02", "MUF01"},
-     {13133055, 6593480, 10209380, 13147035, 10197960, 10209435, 6592190, 13155990, 5949590, 0},
-     {"MUF10", "MUF09", "MUF08", "MUF07", "MUF06", "MUF05", "MUF04", "MUF03", "MUF02", "MUF01"},
-     {"29", "26", "23", "20", "17", "14", "11", "8", "5", "2"}},
-    {{"REL10", "REL09", "REL08", "REL07", "REL06", "REL05", "REL04", "REL03", "REL02", "REL01"},
-     {5921535, 5963610, 16734810, 5963775, 16777050, 16734975, 5921408, 5931098, 8411738, 0},
-     {"REL10", "REL09", "REL08", "REL07", "REL06", "REL05", "REL04", "REL03", "REL02", "REL01"},
-     {"0.9", "0.8", "0.7", "0.6", "0.5", "0.4", "0.3", "0.2", "0.1", "0.01"}},
-}};
-
 template <class Visit>
-void VisitScaleColours(const ScaleKeys& keys, ColourScale& scale, Visit& visit)
+void VisitScaleColours(const ScaleSteps& steps, ColourScale& scale, Visit& visit)
 {
-    for (std::size_t i = 0; i < ColourScale::kSteps; ++i)
-        visit(wxString::Format("Propagation/%sColour", keys.colourKeys[i]), scale.colours[ColourScale::kSteps - 1 - i],
-              keys.colours[i]);
+    for (std::size_t i = 0; i < steps.size(); ++i)
+        visit(wxString::Format("Propagation/%sColour", steps[i].colourKey), scale.colours[steps.size() - 1 - i],
+              steps[i].colour);
 }
 
 template <class Visit>
-void VisitScaleValues(const ScaleKeys& keys, ColourScale& scale, Visit& visit)
+void VisitScaleValues(const ScaleSteps& steps, ColourScale& scale, Visit& visit)
 {
-    for (std::size_t i = 0; i < ColourScale::kSteps; ++i)
-        visit(wxString::Format("Propagation/%sValue", keys.valueKeys[i]), scale.values[ColourScale::kSteps - 1 - i],
-              keys.values[i]);
+    for (std::size_t i = 0; i < steps.size(); ++i)
+        visit(wxString::Format("Propagation/%sValue", steps[i].thresholdKey), scale.values[steps.size() - 1 - i],
+              steps[i].threshold);
 }
 
 template <class Visit>
@@ -139,7 +111,7 @@ void VisitPropagation(PropagationSettings& p, Visit& visit)
     visit("Propagation/Fq", p.frequency, 3);
     visit("Propagation/Alpha", p.alpha, 120);
     visit("Propagation/GreyScale", p.greyScale, 0);
-    VisitScaleColours(kScaleKeys[0], p.scales[0], visit);
+    VisitScaleColours(kParameters[0].steps, p.scales[0], visit);
 
     visit("Propagation/TxPwr", p.txPower, 3);
     visit("Propagation/TxGain", p.transmitter.gain, "3.0");
@@ -157,9 +129,9 @@ void VisitPropagation(PropagationSettings& p, Visit& visit)
         visit(Numbered("Propagation/Fo", i + 1), p.layerMultipliers[i], i == 3 ? "0.00" : "1.0");
 
     for (std::size_t i = 1; i < p.scales.size(); ++i)
-        VisitScaleColours(kScaleKeys[i], p.scales[i], visit);
+        VisitScaleColours(kParameters[i].steps, p.scales[i], visit);
     for (std::size_t i = 0; i < p.scales.size(); ++i)
-        VisitScaleValues(kScaleKeys[i], p.scales[i], visit);
+        VisitScaleValues(kParameters[i].steps, p.scales[i], visit);
 
     visit("Propagation/ParamGrey", p.paramGrey, 0);
     visit("Propagation/ParamLevel", p.autoLevel, 0);

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "config/Choice.h"
+#include "config/PropagationParameters.h"
 #include "config/UtcTime.h"
 
 #include <wx/string.h>
 
 #include <array>
+#include <tuple>
 
 /// How the lines of a layer are drawn.
 struct LineStyle
@@ -37,7 +40,7 @@ struct CompassSettings : LabelledLines
 
 struct RadialsSettings : LineStyle
 {
-    int every{}; ///< choice: 5, 10, 15, 30 or 45 degrees
+    int every{}; ///< choice
 };
 
 struct RangeCirclesSettings : LineStyle
@@ -55,7 +58,7 @@ struct BorderSlot : LineStyle
 struct TextSlot : TextStyle
 {
     wxString file;
-    int align{}; ///< choice: five alignments, then the same five with a dot
+    int align{}; ///< choice
     bool avoidCollisions{};
 };
 
@@ -69,7 +72,7 @@ struct PlotSquaresSlot
 {
     bool show{};
     wxString file;
-    int stipple{}; ///< choice: seven hatchings, 0 is solid
+    int stipple{}; ///< choice
     long borderColour{};
     long fillColour{};
     long alpha{};
@@ -89,11 +92,12 @@ struct GreyzoneSettings
 
 inline constexpr int kRealTime = 0;
 inline constexpr int kOnce = 1;
+inline constexpr config::Choice<int> kTimeModes[] = {{"Real time", kRealTime}, {"Once", kOnce}};
 
 /// Colours and thresholds of one propagation parameter; index 0 is the lowest step.
 struct ColourScale
 {
-    static constexpr std::size_t kSteps = 10;
+    static constexpr std::size_t kSteps = std::tuple_size_v<config::ScaleSteps>;
     std::array<long, kSteps> colours{};
     std::array<wxString, kSteps> values; ///< numbers as the user typed them
 };
@@ -109,7 +113,7 @@ struct AntennaSettings
 struct PropagationSettings
 {
     bool show{};
-    int engine{};
+    int engine{}; ///< choice
     long sunspotNumber{};
     int grid{}; ///< choice
     wxString directory;
@@ -132,9 +136,9 @@ struct PropagationSettings
     long paramGrey{};                         ///< kept, not used
     long autoLevel{};
     long legend{};
-    long paramAlpha{};                 ///< kept, not used
-    int parameter{};                   ///< 0 SDBW, 1 SNR, 2 MUF, 3 REL
-    std::array<ColourScale, 4> scales; ///< by parameter
+    long paramAlpha{};                                          ///< kept, not used
+    int parameter{};                                            ///< index in config::kParameters
+    std::array<ColourScale, config::kParameters.size()> scales; ///< by parameter
 };
 
 /// All settings of the program: one member for each key. Values are not range-checked here.

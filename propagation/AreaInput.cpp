@@ -13,14 +13,6 @@ namespace
 /// Settings may hold any number.
 constexpr int kLargestMonth = std::numeric_limits<int>::max() - 1;
 
-constexpr std::array kBands{3.5, 7.0, 10.1, 14.0, 18.1, 21.0, 24.9, 28.0};
-
-template <class Table>
-auto NearestEntry(const Table& table, int index)
-{
-    return table[static_cast<std::size_t>(std::clamp(index, 0, static_cast<int>(table.size()) - 1))];
-}
-
 wxString TransmitLine(double lat, double lon)
 {
     return wxString::Format("Transmit : %3.2f%c    %3.2f%c   HOME                 Short\n", std::abs(lat),
@@ -59,24 +51,22 @@ AreaTime AreaTimeOf(const GreyzoneSettings& settings, const UtcTime& now)
 
 int GridPoints(int choice)
 {
-    static constexpr std::array kPoints{18, 36, 54, 72, 90, 108, 126, 144, 162, 180, 198};
-    return NearestEntry(kPoints, choice);
+    return config::Chosen(kGrids, choice).value;
 }
 
 bool UsesOwnFrequency(const PropagationSettings& settings)
 {
-    return settings.frequency >= static_cast<int>(kBands.size());
+    return !config::Chosen(kFrequencies, settings.frequency).value;
 }
 
 double FrequencyMHz(const PropagationSettings& settings)
 {
-    return UsesOwnFrequency(settings) ? NumberOf(settings.userFrequencyMHz) : NearestEntry(kBands, settings.frequency);
+    return config::Chosen(kFrequencies, settings.frequency).value.value_or(NumberOf(settings.userFrequencyMHz));
 }
 
 double TxPowerKw(int choice)
 {
-    static constexpr std::array kPowers{0.001, 0.01, 0.05, 0.1, 0.25, 0.5, 1.0};
-    return NearestEntry(kPowers, choice);
+    return config::Chosen(kTxPowers, choice).value;
 }
 
 wxString AreaInputText(const Settings& settings, geo::LatLon transmitter, const AreaTime& time,

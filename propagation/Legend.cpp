@@ -1,5 +1,6 @@
 #include "propagation/Legend.h"
 
+#include "config/PropagationParameters.h"
 #include "render/BitmapPixels.h"
 #include "render/Layer.h"
 
@@ -17,12 +18,6 @@ constexpr int kBoxGap = 20; ///< from the left edge of the map to a box, the lab
 constexpr int kRightMargin = 10;
 constexpr int kTitleRow = 13; ///< rows are counted in text heights from the lower edge of the map
 constexpr int kLowestRow = 3;
-
-wxString TitleOf(Parameter parameter)
-{
-    static constexpr std::array kTitles{"SDBW", "Signal Noice Ratio dB", "Muf MHz", "Reliability"};
-    return kTitles[static_cast<std::size_t>(parameter)];
-}
 
 wxString LabelOf(double threshold)
 {
@@ -98,7 +93,7 @@ render::PixelGrid PixelsOf(wxBitmap& bitmap)
 
 Legend DrawLegend(Parameter parameter, const ClassScale& scale, const wxFont& font, const render::PictureRows& overlay)
 {
-    const wxString title = TitleOf(parameter);
+    const wxString title = config::kParameters[static_cast<std::size_t>(parameter)].legend;
     const Metrics metrics(title, scale, font);
     const int h = metrics.textHeight;
     Legend legend;

@@ -1,5 +1,7 @@
 #include "propagation/ResultReader.h"
 
+#include "config/PropagationParameters.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
@@ -20,8 +22,8 @@ struct Field
 
 Field FieldOf(Parameter parameter)
 {
-    static constexpr std::array kFields{Field{74, 6}, Field{86, 6}, Field{26, 6}, Field{99, 5}};
-    return kFields[static_cast<std::size_t>(parameter)];
+    const auto& data = config::kParameters[static_cast<std::size_t>(parameter)];
+    return {data.column, data.width};
 }
 
 /// A field of a line as text of its own; shorter where the line ends before it.

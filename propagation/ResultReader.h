@@ -6,7 +6,7 @@
 
 namespace propagation
 {
-/// The propagation parameters that can be drawn, as "Propagation/Param" numbers them.
+/// The propagation parameters that can be drawn: the indexes of config::kParameters.
 enum class Parameter
 {
     Sdbw, ///< median signal power at the receiver, dBW

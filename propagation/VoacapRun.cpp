@@ -16,7 +16,6 @@ namespace propagation
 namespace
 {
 constexpr int kFailed = OutsideProgram::kNotStarted;
-constexpr int kVoacapEngine = 1;
 
 using File = std::unique_ptr<std::FILE, decltype(&std::fclose)>;
 
@@ -79,7 +78,7 @@ int RunVoacap(const AreaFiles& files, Settings& settings, geo::LatLon transmitte
     File input(PipeOrDeviceAt(files.input.fn_str()) ? nullptr : wxFopen(files.input, "w"), &std::fclose);
     if (input)
     {
-        settings.propagation.engine = kVoacapEngine;
+        settings.propagation.engine = kVoacap;
         reports.step("Calling VoaArea...");
     }
     if (!input || !WriteAndClose(std::move(input), AreaInputText(settings, transmitter, time, *antennas)))

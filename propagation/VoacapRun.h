@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/Choice.h"
 #include "config/Settings.h"
 #include "geo/Locator.h"
 #include "propagation/Messages.h"
@@ -11,6 +12,10 @@ namespace propagation
 {
 /// In place of an exit status: voacapl was ended before it had done its work.
 inline constexpr int kAbandoned = std::numeric_limits<int>::min();
+
+inline constexpr int kIcepac = 0;
+inline constexpr int kVoacap = 1; ///< the only one that is run
+inline constexpr config::Choice<int> kEngines[] = {{"Icepac", kIcepac}, {"Voacap", kVoacap}};
 
 /// Where an area run keeps its files, below the data directory of voacapl.
 struct AreaFiles

@@ -4,31 +4,14 @@
 #include <wx/graphics.h>
 #include <wx/image.h>
 
-#include <algorithm>
-#include <array>
-#include <cstdint>
-
 namespace render
 {
 namespace
 {
-constexpr int kSide = 8;
-
-/// Rows of a pattern from the top; bit 0 is the leftmost pixel.
-using Pattern = std::array<std::uint8_t, kSide>;
-
-constexpr std::array<Pattern, 7> kPatterns{{
-    {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF},
-    {0x80, 0x40, 0x20, 0x10, 0x08, 0x04, 0x02, 0x01},
-    {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},
-    {0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80},
-    {0x10, 0x10, 0x10, 0xFF, 0x10, 0x10, 0x10, 0x10},
-    {0x00, 0x00, 0x00, 0xFF, 0x00, 0x00, 0x00, 0x00},
-    {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10},
-}};
+constexpr int kSide = std::tuple_size_v<HatchPattern>;
 
 /// The pattern in a colour, on a transparent ground.
-wxBitmap StippleBitmap(const Pattern& pattern, const wxColour& colour)
+wxBitmap StippleBitmap(const HatchPattern& pattern, const wxColour& colour)
 {
     wxImage image(kSide, kSide);
     image.InitAlpha();
@@ -40,11 +23,6 @@ wxBitmap StippleBitmap(const Pattern& pattern, const wxColour& colour)
             image.SetAlpha(x, y, isSet ? wxALPHA_OPAQUE : wxALPHA_TRANSPARENT);
         }
     return wxBitmap(image);
-}
-
-const Pattern& PatternOf(int stipple)
-{
-    return kPatterns[static_cast<std::size_t>(std::clamp(stipple, 0, static_cast<int>(kPatterns.size()) - 1))];
 }
 
 /// Through the middles of the pixels, as the outline runs: without a pen the toolkit would fill from the corners of the
@@ -62,7 +40,7 @@ wxGraphicsPath PathThrough(wxGraphicsContext& context, std::span<const wxPoint> 
 
 // The toolkit's own hatch brushes are smoothed even where shapes are not.
 Hatch::Hatch(int stipple, const wxColour& fillColour, const wxColour& borderColour)
-    : m_fill(StippleBitmap(PatternOf(stipple), fillColour)), m_border(borderColour)
+    : m_fill(StippleBitmap(config::Chosen(kHatchings, stipple).value, fillColour)), m_border(borderColour)
 {
 }
 

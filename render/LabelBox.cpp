@@ -9,6 +9,12 @@
 
 namespace render
 {
+LabelStyle LabelStyleOf(int align)
+{
+    const bool isListed = align >= 0 && align < static_cast<int>(std::size(kLabelStyles));
+    return config::Chosen(kLabelStyles, isListed ? align : 0).value;
+}
+
 wxRect LabelBox(geo::Pixel place, wxSize extent, Alignment alignment)
 {
     // By how many halves of its extent the box is moved left and up.

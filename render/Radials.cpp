@@ -3,15 +3,11 @@
 #include "render/ChainStroker.h"
 #include "render/DiscGeometry.h"
 
-#include <algorithm>
-#include <array>
-
 namespace render
 {
 int RadialStepDeg(int every)
 {
-    static constexpr std::array<int, 5> kSteps{5, 10, 15, 30, 45};
-    return kSteps[static_cast<std::size_t>(std::clamp(every, 0, static_cast<int>(kSteps.size()) - 1))];
+    return config::Chosen(kRadialSteps, every).value;
 }
 
 void DrawRadials(wxDC& dc, const MapView& view, int every)

@@ -17,8 +17,6 @@ namespace
 /// More does not fit on the largest map. It keeps a damaged file from taking minutes.
 constexpr std::size_t kMaxTextLength = 1000;
 
-constexpr int kAlignments = 5;
-
 /// Draws the labels of one file.
 class LabelWriter
 {
@@ -26,7 +24,7 @@ public:
     LabelWriter(wxDC& dc, const MapView& view, const TextSlot& style)
         : m_dc(dc),
           m_view(view),
-          m_alignment(style.align >= 0 && style.align < 2 * kAlignments ? style.align : 0),
+          m_style(LabelStyleOf(style.align)),
           m_occupancy(style.avoidCollisions ? std::optional<Occupancy>(view.frame.mapSize) : std::nullopt)
     {
         SetTextStyle(dc, style.font, style.colour);
@@ -40,18 +38,18 @@ public:
         if (!place)
             return;
         const wxSize extent = m_dc.GetTextExtent(label.text);
-        const wxRect box = LabelBox(*place, extent, static_cast<Alignment>(m_alignment % kAlignments));
+        const wxRect box = LabelBox(*place, extent, m_style.alignment);
         if (m_occupancy && !m_occupancy->Take(box))
             return;
         DrawLabel(m_dc, label.text, box);
-        if (m_alignment >= kAlignments)
+        if (m_style.withDot)
             m_dc.DrawRectangle(place->x - 2, place->y - 2, 4, 4);
     }
 
 private:
     wxDC& m_dc;
     const MapView& m_view;
-    int m_alignment; ///< 0..9, from 5 on with a dot
+    LabelStyle m_style;
     std::optional<Occupancy> m_occupancy;
 };
 } // namespace

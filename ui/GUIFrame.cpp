@@ -1,5 +1,7 @@
 #include "ui/GUIFrame.h"
 
+#include "config/PropagationParameters.h"
+#include "propagation/AreaInput.h"
 #include "resources/icons/create.xpm"
 #include "resources/icons/fq_10_1.xpm"
 #include "resources/icons/fq_14_0.xpm"
@@ -25,6 +27,9 @@
 #include <wx/menu.h>
 #include <wx/sizer.h>
 
+#include <array>
+#include <vector>
+
 namespace
 {
 struct Tool
@@ -36,26 +41,55 @@ struct Tool
     const char* name; ///< for screen readers, and in the menu of tools that have no room
 };
 
-constexpr Tool kTools[] = {
+constexpr Tool kCommandTools[] = {
     {ui::kIdCreate, "Create", wxITEM_NORMAL, icon_create, "Create"},
     {ui::kIdSave, "Save", wxITEM_NORMAL, icon_save, "Save"},
     {ui::kIdOptions, "Options", wxITEM_NORMAL, icon_options, "Options"},
     {ui::kIdHelp, "Help", wxITEM_NORMAL, icon_help, "Help"},
-    {ui::kIdFirstFrequency, "tool", wxITEM_RADIO, icon_fq_3_5, "3.5 MHz"},
-    {ui::kIdFirstFrequency + 1, "tool", wxITEM_RADIO, icon_fq_7_0, "7.0 MHz"},
-    {ui::kIdFirstFrequency + 2, "tool", wxITEM_RADIO, icon_fq_10_1, "10.1 MHz"},
-    {ui::kIdFirstFrequency + 3, "tool", wxITEM_RADIO, icon_fq_14_0, "14.0 MHz"},
-    {ui::kIdFirstFrequency + 4, "tool", wxITEM_RADIO, icon_fq_18_1, "18.1 MHz"},
-    {ui::kIdFirstFrequency + 5, "tool", wxITEM_RADIO, icon_fq_21_0, "21.0 MHz"},
-    {ui::kIdFirstFrequency + 6, "tool", wxITEM_RADIO, icon_fq_24_9, "24.9 MHz"},
-    {ui::kIdFirstFrequency + 7, "tool", wxITEM_RADIO, icon_fq_28_0, "28 MHz"},
-    {ui::kIdLastFrequency, "tool", wxITEM_RADIO, icon_fq_user, "User frequency"},
-    {ui::kIdParameterSdbw, "tool", wxITEM_RADIO, icon_signal, "Signal power (SDBW)"},
-    {ui::kIdParameterSnr, "tool", wxITEM_RADIO, icon_snr, "Signal-to-noise ratio (SNR)"},
-    {ui::kIdParameterMuf, "tool", wxITEM_RADIO, icon_muf, "Maximum usable frequency (MUF)"},
-    {ui::kIdParameterRel, "tool", wxITEM_RADIO, icon_rel, "Reliability (Rel)"},
-    {ui::kIdGreyline, "tool", wxITEM_CHECK, icon_greyline, "Greyline"},
 };
+constexpr Tool kGreylineTool{ui::kIdGreyline, "tool", wxITEM_CHECK, icon_greyline, "Greyline"};
+
+using Icon = const char* const*;
+constexpr std::array<Icon, std::size(propagation::kFrequencies)> kFrequencyIcons{
+    icon_fq_3_5,  icon_fq_7_0,  icon_fq_10_1, icon_fq_14_0, icon_fq_18_1,
+    icon_fq_21_0, icon_fq_24_9, icon_fq_28_0, icon_fq_user};
+constexpr std::array<Icon, config::kParameters.size()> kParameterIcons{icon_signal, icon_snr, icon_muf, icon_rel};
+static_assert(ui::kIdLastFrequency - ui::kIdFirstFrequency + 1 == kFrequencyIcons.size());
+
+Tool FrequencyTool(std::size_t i)
+{
+    const auto& [label, megahertz] = propagation::kFrequencies[i];
+    return {ui::kIdFirstFrequency + static_cast<int>(i), "tool", wxITEM_RADIO, kFrequencyIcons[i],
+            megahertz ? label : "User frequency"};
+}
+
+Tool ParameterTool(std::size_t i)
+{
+    const auto& parameter = config::kParameters[i];
+    return {parameter.tool, "tool", wxITEM_RADIO, kParameterIcons[i], parameter.toolName};
+}
+
+void AddTool(wxToolBar* bar, const Tool& tool)
+{
+    if (tool.kind == wxITEM_SEPARATOR)
+        bar->AddSeparator();
+    else
+        bar->AddTool(tool.id, tool.label, wxBitmap(tool.icon), wxNullBitmap, tool.kind);
+}
+
+/// From the left.
+std::vector<Tool> ToolsInOrder()
+{
+    std::vector<Tool> tools(std::begin(kCommandTools), std::end(kCommandTools));
+    for (std::size_t i = 0; i < kFrequencyIcons.size(); ++i)
+        tools.push_back(FrequencyTool(i));
+    // Two radio groups side by side would be one.
+    tools.push_back({wxID_SEPARATOR, "", wxITEM_SEPARATOR, nullptr, ""});
+    for (std::size_t i = 0; i < kParameterIcons.size(); ++i)
+        tools.push_back(ParameterTool(i));
+    tools.push_back(kGreylineTool);
+    return tools;
+}
 } // namespace
 
 GUIFrame::GUIFrame(wxWindow* parent)
@@ -111,16 +145,13 @@ void GUIFrame::CreateTools()
     // A little wider than a locator: all tools must fit beside it.
     m_locator->SetInitialSize(m_locator->GetSizeFromText("JO65HQ0"));
     m_toolBar->AddControl(m_locator);
-    for (const Tool& tool : kTools)
-    {
-        // Two radio groups side by side would be one.
-        if (tool.id == ui::kIdParameterSdbw)
-            m_toolBar->AddSeparator();
-        m_toolBar->AddTool(tool.id, tool.label, wxBitmap(tool.icon), wxNullBitmap, tool.kind);
-    }
+    const std::vector<Tool> tools = ToolsInOrder();
+    for (const Tool& tool : tools)
+        AddTool(m_toolBar, tool);
     m_toolBar->Realize();
-    for (const Tool& tool : kTools)
-        ui::native::NameTool(m_toolBar, tool.id, tool.name);
+    for (const Tool& tool : tools)
+        if (tool.kind != wxITEM_SEPARATOR)
+            ui::native::NameTool(m_toolBar, tool.id, tool.name);
     ui::native::Name(m_locator, "Locator of the station");
 }
 
@@ -138,8 +169,8 @@ void GUIFrame::BindCommands()
     Bind(wxEVT_TOOL, &GUIFrame::OnOptionsTool, this, ui::kIdOptions);
     Bind(wxEVT_TOOL, &GUIFrame::OnAbout, this, ui::kIdHelp);
     Bind(wxEVT_TOOL, &GUIFrame::OnFrequencyTool, this, ui::kIdFirstFrequency, ui::kIdLastFrequency);
-    for (const int id : ui::kParameterTools)
-        Bind(wxEVT_TOOL, &GUIFrame::OnParameterTool, this, id);
+    for (const auto& parameter : config::kParameters)
+        Bind(wxEVT_TOOL, &GUIFrame::OnParameterTool, this, parameter.tool);
     Bind(wxEVT_TOOL, &GUIFrame::OnGreylineTool, this, ui::kIdGreyline);
     m_canvas->Bind(wxEVT_LEFT_DOWN, &GUIFrame::OnCanvasLeftDown, this);
     m_canvas->Bind(wxEVT_MOTION, &GUIFrame::OnCanvasMotion, this);

@@ -1,4 +1,5 @@
-#include "ui/Choices.h"
+#include "render/LabelBox.h"
+#include "render/Radials.h"
 #include "ui/OptionsRows.h"
 
 #include <wx/gbsizer.h>
@@ -102,7 +103,7 @@ SettingsPage::SettingsPage(wxBookCtrlBase* book)
     grid.Add("Radials    ", radials,
              [&]
              {
-                 radialsEvery = NewChoice(panel, kRadialSteps);
+                 radialsEvery = NewChoice(panel, config::LabelsOf(render::kRadialSteps));
                  auto* const extras = new wxBoxSizer(wxHORIZONTAL);
                  extras->Add(radialsEvery);
                  return extras;
@@ -155,7 +156,7 @@ TextPage::TextPage(wxBookCtrlBase* book)
         AddCells(grid, {row.text.show, row.text.colour, row.text.alpha, row.text.font});
         row.file = NewFile(panel, "dat files (*.dat)|*.dat|All files (*.*)|*.*", wxFLP_SMALL);
         grid->Add(row.file, 0, wxEXPAND | wxALIGN_CENTRE_VERTICAL);
-        row.align = NewChoice(panel, kAlignments);
+        row.align = NewChoice(panel, config::LabelsOf(render::kLabelStyles));
         row.avoidCollisions = NewCheck(panel, "Collision\ndetect");
         AddCells(grid, {row.align, row.avoidCollisions});
     }

@@ -1,6 +1,9 @@
+#include "config/Settings.h"
+#include "render/Hatch.h"
 #include "ui/Choices.h"
 #include "ui/Guide.h"
 #include "ui/OptionsRows.h"
+#include "ui/PositionFields.h"
 
 #include <wx/button.h>
 #include <wx/statbox.h>
@@ -26,7 +29,7 @@ wxSizer* NewSquaresSlot(wxWindow* page, const wxString& label, PlotSquaresPage::
 
     auto* const style = new wxBoxSizer(wxHORIZONTAL);
     group->Add(style, 0, wxEXPAND | wxALL, kGap);
-    slot.stipple = NewChoice(box, kHatchings);
+    slot.stipple = NewChoice(box, config::LabelsOf(render::kHatchings));
     style->Add(slot.stipple, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, 2 * kGap);
     wxStaticText* const alpha = NewLabel(box, "Alpha");
     slot.alpha = NewSpin(box, 0, 255);
@@ -52,7 +55,7 @@ wxTextCtrl* NewFiltered(wxWindow* parent, int digits, const char* characters)
 }
 
 PositionRow NewPositionRow(wxWindow* parent, wxSizer* grid, const char* label, const char* decimalHeading,
-                           const char* hemisphereHeading, std::span<const char* const> hemispheres)
+                           const char* hemisphereHeading, const wxArrayString& hemispheres)
 {
     AddHeadings(parent, grid, {"", decimalHeading, "", "Deg", "Min", "Sec", hemisphereHeading});
     wxStaticText* const name = NewLabel(parent, label);
@@ -120,7 +123,7 @@ TimePage::TimePage(wxBookCtrlBase* book)
     auto* const content = new wxBoxSizer(wxVERTICAL);
     content->Add(NewLabel(panel, "This time affects both the sun/grayline\nand the Voacap features."), 0, wxBOTTOM,
                  2 * kGap);
-    mode = NewRadioBox(panel, "Type", kTimeModes, 2);
+    mode = NewRadioBox(panel, "Type", config::LabelsOf(kTimeModes), 2);
     content->Add(mode, 0, wxBOTTOM, 2 * kGap);
 
     const auto newNumbers = [&](int count, const char* tip)
@@ -153,8 +156,8 @@ HomePage::HomePage(wxBookCtrlBase* book)
     auto* const content = new wxBoxSizer(wxVERTICAL);
     wxFlexGridSizer* const grid = NewGrid(7);
     content->Add(grid, 0, wxBOTTOM, 2 * kGap);
-    latitude = NewPositionRow(panel, grid, "Latitude", "Decimal (N+ / S-)", "N/S", kNorthSouth);
-    longitude = NewPositionRow(panel, grid, "Longitude", "Decimal (E+ / W-)", "E/W", kEastWest);
+    latitude = NewPositionRow(panel, grid, "Latitude", "Decimal (N+ / S-)", "N/S", config::LabelsOf(kNorthSouth));
+    longitude = NewPositionRow(panel, grid, "Longitude", "Decimal (E+ / W-)", "E/W", config::LabelsOf(kEastWest));
     wxStaticText* const name = NewLabel(panel, "Locator");
     locator = NewText(panel, 10);
     AddCells(grid, {name});

@@ -1,7 +1,5 @@
 #include "ui/OptionsRows.h"
 
-#include "ui/Choices.h"
-
 #include <wx/log.h>
 #include <wx/utils.h>
 
@@ -99,14 +97,9 @@ wxChoice* NewChoice(wxWindow* parent, const wxArrayString& entries)
     return choice;
 }
 
-wxChoice* NewChoice(wxWindow* parent, std::span<const char* const> entries)
+wxRadioBox* NewRadioBox(wxWindow* parent, const wxString& label, const wxArrayString& entries, int columns)
 {
-    return NewChoice(parent, Labels(entries));
-}
-
-wxRadioBox* NewRadioBox(wxWindow* parent, const wxString& label, std::span<const char* const> entries, int columns)
-{
-    return new wxRadioBox(parent, wxID_ANY, label, wxDefaultPosition, wxDefaultSize, Labels(entries), columns,
+    return new wxRadioBox(parent, wxID_ANY, label, wxDefaultPosition, wxDefaultSize, entries, columns,
                           wxRA_SPECIFY_COLS);
 }
 

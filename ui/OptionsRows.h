@@ -7,7 +7,6 @@
 #include <wx/stattext.h>
 
 #include <initializer_list>
-#include <span>
 
 // What the pages of the options dialog are put together from.
 namespace ui
@@ -24,8 +23,7 @@ wxStaticText* NewLabel(wxWindow* parent, const wxString& text);
 wxCheckBox* NewCheck(wxWindow* parent, const wxString& label = "");
 wxSpinCtrl* NewSpin(wxWindow* parent, int min, int max, long style = 0);
 wxChoice* NewChoice(wxWindow* parent, const wxArrayString& entries);
-wxChoice* NewChoice(wxWindow* parent, std::span<const char* const> entries);
-wxRadioBox* NewRadioBox(wxWindow* parent, const wxString& label, std::span<const char* const> entries, int columns);
+wxRadioBox* NewRadioBox(wxWindow* parent, const wxString& label, const wxArrayString& entries, int columns);
 wxColourPickerCtrl* NewColour(wxWindow* parent);
 wxFontPickerCtrl* NewFont(wxWindow* parent);
 

@@ -1,4 +1,6 @@
-#include "ui/Choices.h"
+#include "config/PropagationParameters.h"
+#include "propagation/AreaInput.h"
+#include "propagation/VoacapRun.h"
 #include "ui/OptionsRows.h"
 
 #include <wx/dcclient.h>
@@ -38,10 +40,12 @@ auto AddLabelled(wxWindow* parent, wxSizer* sizer, const char* label, MakeContro
 wxSizer* NewEngineRow(wxWindow* page, VoacapMainPage& controls)
 {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    controls.engine = AddLabelled(page, row, "Propagation Engine", [&] { return NewChoice(page, kEngines); });
+    controls.engine = AddLabelled(page, row, "Propagation Engine",
+                                  [&] { return NewChoice(page, config::LabelsOf(propagation::kEngines)); });
     controls.ssn = AddLabelled(page, row, "SSN", [&] { return NewSpin(page, 0, 200, wxSP_WRAP); });
     controls.ssn->SetToolTip(kSsnTip);
-    controls.grid = AddLabelled(page, row, "Grid", [&] { return NewChoice(page, kGrids); });
+    controls.grid =
+        AddLabelled(page, row, "Grid", [&] { return NewChoice(page, config::LabelsOf(propagation::kGrids)); });
     row->Add(controls.notes.NewBelow(page, {{"SSN", "SSN: "}}), 0, wxALIGN_CENTRE_VERTICAL | wxBOTTOM, 2 * kGap);
     return row;
 }
@@ -49,8 +53,9 @@ wxSizer* NewEngineRow(wxWindow* page, VoacapMainPage& controls)
 wxSizer* NewTransmitterColumn(wxWindow* page, VoacapMainPage& controls)
 {
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    controls.txPower = AddLabelled(page, column, "Tx Pwr", [&] { return NewChoice(page, kTxPowers); });
-    controls.frequency = NewRadioBox(page, "Frequency", kFrequencies, 3);
+    controls.txPower =
+        AddLabelled(page, column, "Tx Pwr", [&] { return NewChoice(page, config::LabelsOf(propagation::kTxPowers)); });
+    controls.frequency = NewRadioBox(page, "Frequency", config::LabelsOf(propagation::kFrequencies), 3);
     column->Add(controls.frequency, 0, wxBOTTOM, 2 * kGap);
     controls.userFrequency = AddLabelled(page, column, "User Fq MHz", [&] { return NewText(page, 8); });
     column->Add(controls.notes.NewBeside(page, "UserFq"));
@@ -107,8 +112,8 @@ wxTextCtrl* NewExplanation(wxWindow* parent)
                                       wxTE_MULTILINE | wxTE_READONLY | wxTE_NO_VSCROLL | wxBORDER_NONE);
     wxSize needed;
     const wxClientDC dc(text);
-    for (const char* const explanation : kParameterExplanations)
-        needed.IncTo(dc.GetMultiLineTextExtent(explanation));
+    for (const config::PropagationParameter& parameter : config::kParameters)
+        needed.IncTo(dc.GetMultiLineTextExtent(parameter.explanation));
     text->SetMinSize(needed + wxSize(4 * kGap, 4 * kGap));
     text->Bind(wxEVT_KEY_DOWN,
                [text](wxKeyEvent& event)
@@ -156,7 +161,7 @@ VoacapAppearancePage::VoacapAppearancePage(wxBookCtrlBase* book)
     wxScrolledWindow* const panel = NewPage(book, "Appearance");
     auto* const group = new wxStaticBoxSizer(wxHORIZONTAL, panel, "Colour and transparency");
     wxWindow* const box = group->GetStaticBox();
-    parameter = NewRadioBox(box, "Parameter", kParameters, 1);
+    parameter = NewRadioBox(box, "Parameter", config::LabelsOf(config::kParameters), 1);
     parameter->SetMinSize(parameter->GetBestSize() + wxSize(4 * kGap, 0));
     group->Add(parameter, 0, wxALL, kGap);
 

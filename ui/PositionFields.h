@@ -1,11 +1,16 @@
 #pragma once
 
+#include "config/Choice.h"
 #include "ui/OptionsPages.h"
 
 #include <optional>
 
 namespace ui
 {
+/// The hemispheres of an axis and the signs of the degrees there.
+inline constexpr config::Choice<int> kNorthSouth[] = {{"N", 1}, {"S", -1}};
+inline constexpr config::Choice<int> kEastWest[] = {{"E", 1}, {"W", -1}};
+
 /// The conversions between the fields of a latitude or a longitude.
 class PositionFields
 {

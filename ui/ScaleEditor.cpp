@@ -1,7 +1,7 @@
 #include "ui/ScaleEditor.h"
 
+#include "config/PropagationParameters.h"
 #include "render/Style.h"
-#include "ui/Choices.h"
 
 namespace ui
 {
@@ -55,6 +55,6 @@ void ScaleEditor::Show()
         m_controls.steps[i].colour->SetColour(ColourFromSetting(scale.colours[IndexOfStep(i)]));
         m_controls.steps[i].value->ChangeValue(scale.values[IndexOfStep(i)]);
     }
-    m_controls.explanation->ChangeValue(kParameterExplanations[m_shown]);
+    m_controls.explanation->ChangeValue(config::kParameters[m_shown].explanation);
 }
 } // namespace ui

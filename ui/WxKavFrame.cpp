@@ -11,7 +11,7 @@
 #include <wx/msgdlg.h>
 #include <wx/version.h>
 
-#include <array>
+#include <algorithm>
 
 WxKavFrame::WxKavFrame(wxWindow* parent) : WxKavFrame(parent, std::make_unique<Configuration>("Kavdex")) {}
 
@@ -52,8 +52,8 @@ void WxKavFrame::SetPropagationTools(bool enable, int frequencyIndex, int parame
     };
     for (int id = ui::kIdFirstFrequency; id <= ui::kIdLastFrequency; ++id)
         set(id, id - ui::kIdFirstFrequency == frequencyIndex);
-    for (const int& id : ui::kParameterTools)
-        set(id, &id - ui::kParameterTools == parameterIndex);
+    for (std::size_t i = 0; i < config::kParameters.size(); ++i)
+        set(config::kParameters[i].tool, static_cast<int>(i) == parameterIndex);
     if (m_settings->greyzone.show)
         m_toolBar->ToggleTool(ui::kIdGreyline, true);
 }
@@ -136,12 +136,11 @@ void WxKavFrame::ShowReadOut(const wxPoint& pixel)
 
 wxString WxKavFrame::DefaultPictureName() const
 {
-    static constexpr std::array<const char*, 4> kSuffixes{"_SDBW", "_SNR", "_MUF", "_REL"};
     const PropagationSettings& propagation = m_settings->propagation;
     const auto parameter = static_cast<std::size_t>(propagation.parameter);
-    if (propagation.show && parameter >= kSuffixes.size())
+    if (propagation.show && parameter >= config::kParameters.size())
         return "";
-    return m_settings->centreLoc + (propagation.show ? kSuffixes[parameter] : "") + ".jpg";
+    return m_settings->centreLoc + (propagation.show ? config::kParameters[parameter].suffix : "") + ".jpg";
 }
 
 void WxKavFrame::OnSaveImage(wxCommandEvent&)
@@ -165,7 +164,8 @@ void WxKavFrame::OnFrequencyTool(wxCommandEvent& event)
 
 void WxKavFrame::OnParameterTool(wxCommandEvent& event)
 {
-    const auto* const tool = std::ranges::find(ui::kParameterTools, event.GetId());
-    m_settings->propagation.parameter = static_cast<int>(tool - ui::kParameterTools);
+    const auto* const parameter =
+        std::ranges::find(config::kParameters, event.GetId(), &config::PropagationParameter::tool);
+    m_settings->propagation.parameter = static_cast<int>(parameter - config::kParameters.begin());
     DrawPropagation(true);
 }
