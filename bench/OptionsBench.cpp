@@ -1,6 +1,6 @@
 // How long a user waits for the options dialog, and for a page of it.
 
-#include "ui/KavMapOptions.h"
+#include "ui/options/KavMapOptions.h"
 
 #include <benchmark/benchmark.h>
 #include <wx/app.h>

@@ -3,7 +3,7 @@
 #include "geo/Angles.h"
 #include "render/PictureFile.h"
 #include "ui/Ids.h"
-#include "ui/KavMapOptions.h"
+#include "ui/options/KavMapOptions.h"
 #include "ui/Native.h"
 
 #include <wx/filedlg.h>

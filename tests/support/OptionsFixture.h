@@ -4,7 +4,7 @@
 #include "tests/support/Await.h"
 #include "tests/support/Dialogs.h"
 #include "tests/support/TemporaryHome.h"
-#include "ui/KavMapOptions.h"
+#include "ui/options/KavMapOptions.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +18,7 @@ public:
 
     using Options::m_book;
     using Options::m_bordersPage;
+    using Options::m_editing;
     using Options::m_graylinePage;
     using Options::m_homePage;
     using Options::m_loadConfig;

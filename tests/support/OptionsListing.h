@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Options.h"
+#include "ui/options/Options.h"
 
 #include <wx/stattext.h>
 #include <wx/valtext.h>

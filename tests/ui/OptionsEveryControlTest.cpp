@@ -289,10 +289,11 @@ TEST_F(EveryControl, IsForgottenOnCancel)
 
 TEST_F(EveryControl, HasASettingAndEverySettingHasAControl)
 {
-    settings.ForEachSetting(
+    const ui::ControlBindings& bindings = dialog->m_editing.bindings;
+    dialog->m_editing.draft.ForEachSetting(
         [&](const wxString& key, const auto& member, const auto&)
         {
-            const bool bound = dialog->Bindings().Binds(static_cast<const void*>(&member));
+            const bool bound = bindings.Binds(static_cast<const void*>(&member));
             EXPECT_NE(bound, kWithoutControl.count(key) == 1) << key;
         });
 
@@ -313,7 +314,7 @@ TEST_F(EveryControl, HasASettingAndEverySettingHasAControl)
                       if (!input || picker)
                           return;
                       ++controls;
-                      EXPECT_NE(dialog->Bindings().Binds(window), withoutSetting.count(window) == 1)
+                      EXPECT_NE(bindings.Binds(window), withoutSetting.count(window) == 1)
                           << window->GetClassInfo()->GetClassName() << " on " << window->GetParent()->GetLabel();
                   });
     EXPECT_GT(controls, 150);

@@ -1,5 +1,5 @@
 #include "tests/support/OptionsFixture.h"
-#include "ui/Guide.h"
+#include "ui/options/Guide.h"
 
 #include <wx/filename.h>
 

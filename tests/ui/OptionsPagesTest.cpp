@@ -1,7 +1,7 @@
 #include "render/Style.h"
 #include "tests/support/OptionsFixture.h"
 #include "tests/support/Pictures.h"
-#include "ui/SquaresPreview.h"
+#include "ui/options/SquaresPreview.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "ui/SquaresPreview.h"
+#include "ui/options/SquaresPreview.h"
 
 #include "render/Hatch.h"
 #include "resources/preview_map.xpm"

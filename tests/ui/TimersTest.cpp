@@ -1,5 +1,5 @@
 #include "tests/support/FrameFixture.h"
-#include "ui/KavMapOptions.h"
+#include "ui/options/KavMapOptions.h"
 
 #include <gmock/gmock.h>
 
