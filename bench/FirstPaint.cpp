@@ -12,8 +12,8 @@
 #include <ctime>
 
 #ifdef KAV_WITH_PROGRAM
-#include "ui/MapCanvas.h"
 #include "app/WxKavApp.h"
+#include "ui/MapCanvas.h"
 
 class App : public WxKavApp
 {

@@ -149,7 +149,7 @@ class Tree:
                 shutil.copytree(source, place / name)
             elif source.exists():
                 shutil.copy2(source, place / name)
-        # A run that was ended may have left a fault in what is compiled.
+        # The last fault of a run is still in what is compiled.
         left = pathlib.Path(self.marker.read_text()) if self.marker.exists() else self.marker
         if left.exists():
             left.touch()
@@ -267,7 +267,6 @@ def main():
             found = tree.notices()
         finally:
             file.write_text(text)
-            tree.marker.unlink()
         planted += 1
         noticed += found
         what = describe(place, kind, file, text, start, end, new)

@@ -3,8 +3,8 @@
 #include "geo/Angles.h"
 #include "render/PictureFile.h"
 #include "ui/Ids.h"
-#include "ui/options/KavMapOptions.h"
 #include "ui/Native.h"
+#include "ui/options/KavMapOptions.h"
 
 #include <wx/filedlg.h>
 #include <wx/filefn.h>

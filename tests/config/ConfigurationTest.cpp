@@ -1,5 +1,5 @@
-#include "config/SettingKeys.h"
 #include "config/Configuration.h"
+#include "config/SettingKeys.h"
 
 #include "config/SettingsFile.h"
 #include "tests/support/RecordedLog.h"

@@ -7,7 +7,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-
 namespace
 {
 /// No file can grow beyond a few bytes while this lives.

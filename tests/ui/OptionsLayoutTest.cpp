@@ -39,8 +39,8 @@ protected:
         return book->GetPage(page);
     }
 
-    /// Seen from the dialog's outermost group, which the window manager may move meanwhile: then again. (The dialog itself
-    /// learns late where it is, and a group that is asked itself leaves its title out.)
+    /// Seen from the dialog's outermost group, which the window manager may move meanwhile: then again. (The dialog
+    /// itself learns late where it is, and a group that is asked itself leaves its title out.)
     static wxRect RectOf(const wxWindow* window)
     {
         const wxWindow* const top = wxGetTopLevelParent(const_cast<wxWindow*>(window));

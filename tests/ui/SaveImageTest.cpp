@@ -208,7 +208,8 @@ TEST_F(SaveImageTest, KeepsTheOldPictureWhenTheNewOneCannotBeWrittenInItsPlace)
             SaveAs(home.Path(name));
         }
         EXPECT_EQ(home.Read(name), "precious") << name;
-        EXPECT_TRUE(log.lines.back().EndsWith(": Couldn't write the picture " + home.Path(name) + ": File too large")) << log.lines.back();
+        EXPECT_TRUE(log.lines.back().EndsWith(": Couldn't write the picture " + home.Path(name) + ": File too large"))
+            << log.lines.back();
     }
     wxArrayString files;
     wxDir::GetAllFiles(home.Path(""), &files, "map*");
@@ -220,7 +221,8 @@ TEST_F(SaveImageTest, LeavesADirectoryOfThatNameAlone)
     wxFileName::Mkdir(home.Path("target.png"));
     LogLines log;
     SaveAs(home.Path("target.png"));
-    EXPECT_TRUE(log.lines.back().EndsWith("Couldn't write the picture " + home.Path("target.png") + ": it is a directory"));
+    EXPECT_TRUE(
+        log.lines.back().EndsWith("Couldn't write the picture " + home.Path("target.png") + ": it is a directory"));
     EXPECT_TRUE(wxFileName::DirExists(home.Path("target.png")));
 }
 
