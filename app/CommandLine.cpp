@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "config/SpecialFile.h"
+#include "config/Version.h"
 
 #include <wx/chartype.h>
 #include <wx/version.h>
@@ -110,7 +111,7 @@ CommandLine ParseCommandLine(int argc, char** argv)
             std::fputs(kHelp, stdout);
             return Done(0);
         case kVersionOption:
-            std::printf("Kavmap 3.1.9\n%ls\n", wxVERSION_STRING);
+            std::printf("Kavmap " KAV_VERSION "\n%ls\n", wxVERSION_STRING);
             return Done(0);
         case 's':
             line.settings = optarg;

@@ -2,6 +2,7 @@
 
 #include "app/FileNames.h"
 #include "app/StartSettings.h"
+#include "config/Version.h"
 #include "resources/icons/window.xpm"
 #include "ui/WxKavFrame.h"
 
@@ -35,7 +36,7 @@ bool WxKavApp::OnInit()
     wxInitAllImageHandlers();
 
     auto* const frame = new WxKavFrame(nullptr, app::StartSettings(m_commandLine));
-    frame->SetTitle(wxGetTranslation("Kavmap V3.1.9 Linux QQ0QQQ"));
+    frame->SetTitle(wxGetTranslation("Kavmap V" KAV_VERSION " Linux QQ0QQQ"));
     frame->SetIcon(wxIcon(icon_window));
     frame->Show();
     return true;

@@ -74,7 +74,7 @@ endfunction()
 macro(kav_library target)
   add_library(${target} STATIC ${room_SOURCES})
   target_compile_features(${target} PUBLIC cxx_std_20)
-  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include)
   target_link_libraries(
     ${target}
     PUBLIC ${ARGN}

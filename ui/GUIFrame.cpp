@@ -1,6 +1,7 @@
 #include "ui/GUIFrame.h"
 
 #include "config/PropagationParameters.h"
+#include "config/Version.h"
 #include "propagation/AreaInput.h"
 #include "resources/icons/create.xpm"
 #include "resources/icons/fq_10_1.xpm"
@@ -93,7 +94,7 @@ std::vector<Tool> ToolsInOrder()
 } // namespace
 
 GUIFrame::GUIFrame(wxWindow* parent)
-    : wxFrame(parent, wxID_ANY, "Kavmap V3.1.9 QQ0QQQ", wxDefaultPosition, wxSize(765, 550),
+    : wxFrame(parent, wxID_ANY, "Kavmap V" KAV_VERSION " QQ0QQQ", wxDefaultPosition, wxSize(765, 550),
               wxDEFAULT_FRAME_STYLE | wxTAB_TRAVERSAL)
 {
     CreateMenus();
