@@ -71,7 +71,7 @@ private:
     void DrawBaseMap()
     {
         const int side = m_view.frame.mapSize;
-        const geo::RowSampler rows = render::BaseMapRows(m_view, render::BuiltInWorld());
+        const geo::RowSampler rows = render::BaseMapRows(m_view, render::WorldPicture::BuiltIn());
         wxProgressDialog progress("Kavdex", "Creating Map", side, m_frame, wxPD_APP_MODAL | wxPD_AUTO_HIDE);
         for (int first = 0; first < side; first += 100)
         {

@@ -135,7 +135,7 @@ BENCHMARK(DrawOverlayPixels)->Arg(900)->Arg(8000)->Unit(benchmark::kMillisecond)
 void DrawBaseMapPixels(benchmark::State& state)
 {
     const MapView view = ViewOfSide(static_cast<int>(state.range(0)));
-    const geo::RowSampler rows = render::BaseMapRows(view, render::BuiltInWorld());
+    const geo::RowSampler rows = render::BaseMapRows(view, render::WorldPicture::BuiltIn());
     for (auto _ : state)
     {
         const auto bitmap = render::NewOverlayBitmap(view.frame.mapSize);

@@ -90,7 +90,7 @@ bool MapMaker::DrawBaseMaps()
         builtIn = false;
     }
     if (builtIn)
-        ReprojectBaseMap(render::BuiltInWorld());
+        ReprojectBaseMap(render::WorldPicture::BuiltIn());
     return true;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "propagation/ClassScale.h"
-#include "render/CompiledPicture.h"
 #include "render/PictureRows.h"
+#include "render/PixelGrid.h"
 
 #include <wx/font.h>
 

@@ -1,33 +1,29 @@
 #include "render/BaseMap.h"
 
-#include "resources/world.xpm"
+#include "render/WorldPixels.h"
 
 namespace render
 {
 namespace
 {
-PixelGrid PixelsOf(const wxImage& image)
+std::shared_ptr<const Argb[]> PixelsOf(const wxImage& image)
 {
-    const int width = image.GetWidth();
-    const int height = image.GetHeight();
-    PixelGrid grid{width, height,
-                   std::vector<Argb>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height))};
+    const auto count = static_cast<std::size_t>(image.GetWidth()) * static_cast<std::size_t>(image.GetHeight());
+    const auto pixels = std::make_shared_for_overwrite<Argb[]>(count);
     const unsigned char* rgb = image.GetData();
-    for (Argb& pixel : grid.pixels)
-    {
-        pixel = OpaquePixel(rgb[0], rgb[1], rgb[2]);
-        rgb += 3;
-    }
-    return grid;
+    for (std::size_t i = 0; i < count; ++i, rgb += 3)
+        pixels[i] = OpaquePixel(rgb[0], rgb[1], rgb[2]);
+    return pixels;
 }
 } // namespace
 
-WorldPicture::WorldPicture(const wxImage& image) : WorldPicture(PixelsOf(image)) {}
+WorldPicture::WorldPicture(const wxImage& image) : WorldPicture(image.GetWidth(), image.GetHeight(), PixelsOf(image)) {}
 
-const WorldPicture& BuiltInWorld()
+WorldPicture WorldPicture::BuiltIn()
 {
-    static const WorldPicture world{UnpackXpm(world_xpm)};
-    return world;
+    // An owner that owns nothing: they are there as long as the program.
+    const std::shared_ptr<const Argb[]> pixels(std::shared_ptr<void>(), kWorldPixels.pixels.data());
+    return {kWorldPixels.width, kWorldPixels.height, pixels};
 }
 
 geo::RowSampler BaseMapRows(const MapView& view, const WorldPicture& world)

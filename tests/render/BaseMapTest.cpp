@@ -195,7 +195,7 @@ TEST(WorldPicture, IsBlackJustBeyondItsEdges)
 
 TEST(BuiltInWorld, IsTheRightWayRound)
 {
-    const render::WorldPicture& world = render::BuiltInWorld();
+    const render::WorldPicture world = render::WorldPicture::BuiltIn();
     const auto isSea = [&](double lat, double lon)
     {
         const Argb pixel = world.Cells().At({lat / 57.2957795131, lon / 57.2957795131});

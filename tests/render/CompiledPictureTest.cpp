@@ -1,5 +1,6 @@
 #include "render/CompiledPicture.h"
 
+#include "render/WorldPixels.h"
 #include "resources/world.xpm"
 
 #include <gmock/gmock.h>
@@ -30,14 +31,13 @@ TEST(UnpackXpm, TellsKeysApartByEveryCharacter)
                                          0xFF000001, 0xFF000001, 0xFF000004, 0xFF000001, 0xFF000002, 0xFF000003));
 }
 
-TEST(UnpackXpm, ReadsTheBuiltInWorldAsTheToolkitDoes)
+TEST(WorldPixels, AreWhatTheToolkitReads)
 {
-    const render::PixelGrid grid = render::UnpackXpm(world_xpm);
     const wxImage expected(world_xpm);
-    ASSERT_EQ(wxSize(grid.width, grid.height), expected.GetSize());
+    ASSERT_EQ(wxSize(render::kWorldPixels.width, render::kWorldPixels.height), expected.GetSize());
     std::size_t different = 0;
     const unsigned char* rgb = expected.GetData();
-    for (const render::Argb pixel : grid.pixels)
+    for (const render::Argb pixel : render::kWorldPixels.pixels)
     {
         different += pixel != render::OpaquePixel(rgb[0], rgb[1], rgb[2]);
         rgb += 3;
