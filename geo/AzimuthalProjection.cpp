@@ -53,16 +53,21 @@ void AzimuthalProjection::Init(int falseEastingMetres, int falseNorthingMetres, 
 
 std::int64_t AzimuthalProjection::Forward(double& x, double& y, double lonRad, double latRad) const
 {
-    const double sinLat = std::sin(latRad);
-    const double cosLat = std::cos(latRad);
-    const double dlon = AdjustLon(lonRad - centreLon);
-    const double sinDlon = std::sin(dlon);
-    const double cosDlon = std::cos(dlon);
-    const double g = sinLat0 * sinLat + cosLat0 * cosLat * cosDlon;
+    return Forward(x, y, EastOfCentre(lonRad), SineCosine(latRad));
+}
+
+SineCosine AzimuthalProjection::EastOfCentre(double lonRad) const
+{
+    return SineCosine(AdjustLon(lonRad - centreLon));
+}
+
+std::int64_t AzimuthalProjection::Forward(double& x, double& y, const SineCosine& east, const SineCosine& lat) const
+{
+    const double g = sinLat0 * lat.sin + cosLat0 * lat.cos * east.cos;
     const double z = std::acos(g);
     const double k = z / std::sin(z) * kEarthRadius;
-    x = cosLat * k * sinDlon + falseEasting;
-    y = (cosLat0 * sinLat - sinLat0 * cosLat * cosDlon) * k + falseNorthing;
+    x = lat.cos * k * east.sin + falseEasting;
+    y = (cosLat0 * lat.sin - sinLat0 * lat.cos * east.cos) * k + falseNorthing;
     return geo::TruncateToInt64(std::sqrt(x * x + y * y));
 }
 

@@ -1,6 +1,16 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
+
+/// Sine and cosine of an angle.
+struct SineCosine
+{
+    explicit SineCosine(double rad) : sin(std::sin(rad)), cos(std::cos(rad)) {}
+
+    double sin;
+    double cos;
+};
 
 /**
  * Wraps an angle in radians into -pi..pi, in at most five rounds of subtracting whole turns.
@@ -47,6 +57,13 @@ public:
      * is 1 or more.
      */
     std::int64_t Forward(double& x, double& y, double lonRad, double latRad) const;
+
+    /// The same for many positions on one meridian or parallel, whose sines and cosines need not be computed anew.
+    /// @param[in] east from EastOfCentre(). @param[in] lat of the latitude.
+    std::int64_t Forward(double& x, double& y, const SineCosine& east, const SineCosine& lat) const;
+
+    /// Of the angle from the centre's meridian to a longitude.
+    SineCosine EastOfCentre(double lonRad) const;
 
     /**
      * The position that lies under a point of the map plane.

@@ -6,6 +6,8 @@
 
 #include <wx/dc.h>
 
+#include <vector>
+
 namespace render
 {
 /// The lines of a grid in whole degrees, both ends included. A step below 1 leaves that direction out.
@@ -34,21 +36,29 @@ template <class Sink>
 void TraceGridLines(const MapView& view, const GridSpec& grid, Sink& segment)
 {
     constexpr double kStep = 0.1;
+    // The steps add up rounding errors; where a line ends depends on them.
+    std::vector<SineCosine> latitudes;
+    for (double lat = 85.0; lat >= -85.0; lat -= kStep)
+        latitudes.emplace_back(lat * geo::kRadPerDeg);
+    std::vector<SineCosine> longitudes;
+    for (double lon = -180.0; lon <= 180.0; lon += kStep)
+        longitudes.push_back(view.projection.EastOfCentre(lon * geo::kRadPerDeg));
+
     ThinnedPen pen(3);
-    const auto sample = [&](double lon, double lat)
+    const auto sample = [&](const SineCosine& east, const SineCosine& lat)
     {
-        if (const auto pixel = view.VisiblePixel(lon * geo::kRadPerDeg, lat * geo::kRadPerDeg))
+        if (const auto pixel = view.VisiblePixel(east, lat))
             pen.To(*pixel, segment);
         else
             pen.Lift();
     };
-    // The steps add up rounding errors; where a line ends depends on them.
     for (long lon = grid.lonFrom; grid.lonStep > 0 && lon <= grid.lonTo; lon += grid.lonStep, pen.Lift())
-        for (double lat = 85.0; lat >= -85.0; lat -= kStep)
-            sample(static_cast<double>(lon), lat);
+        for (const SineCosine east = view.projection.EastOfCentre(static_cast<double>(lon) * geo::kRadPerDeg);
+             const SineCosine& lat : latitudes)
+            sample(east, lat);
     for (long lat = grid.latFrom; grid.latStep > 0 && lat <= grid.latTo; lat += grid.latStep, pen.Lift())
-        for (double lon = -180.0; lon <= 180.0; lon += kStep)
-            sample(lon, static_cast<double>(lat));
+        for (const SineCosine parallel(static_cast<double>(lat) * geo::kRadPerDeg); const SineCosine& east : longitudes)
+            sample(east, parallel);
 }
 
 /// Draws a grid in the pen of the drawing context.

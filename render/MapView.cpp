@@ -5,9 +5,14 @@
 
 std::optional<geo::Pixel> MapView::VisiblePixel(double lonRad, double latRad) const
 {
+    return VisiblePixel(projection.EastOfCentre(lonRad), SineCosine(latRad));
+}
+
+std::optional<geo::Pixel> MapView::VisiblePixel(const SineCosine& east, const SineCosine& lat) const
+{
     constexpr int kFarthest = 1 << 20;
     geo::MapPoint place{};
-    if (!IsVisible(projection.Forward(place.x, place.y, lonRad, latRad)))
+    if (!IsVisible(projection.Forward(place.x, place.y, east, lat)))
         return std::nullopt;
     const geo::Pixel pixel = frame.MapToPixel(place.x, place.y);
     const auto isNear = [](int coordinate) { return coordinate >= -kFarthest && coordinate <= kFarthest; };

@@ -36,6 +36,9 @@ struct MapView
      * pixels without running over.
      */
     std::optional<geo::Pixel> VisiblePixel(double lonRad, double latRad) const;
+
+    /// The same for many places on one meridian or parallel: see AzimuthalProjection::Forward().
+    std::optional<geo::Pixel> VisiblePixel(const SineCosine& east, const SineCosine& lat) const;
 };
 
 namespace render
