@@ -14,6 +14,18 @@
 
 namespace
 {
+/// A picture in rows in which neighbours differ.
+class MotleyRows : public render::PictureRows
+{
+public:
+    int Side() const override { return 30; }
+    void Row(int y, std::span<render::Argb> out) const override
+    {
+        for (unsigned x = 0; x < out.size(); ++x)
+            out[x] = render::OpaquePixel(x * 6, static_cast<unsigned>(y) * 8, x * static_cast<unsigned>(y) % 256);
+    }
+};
+
 class PictureFileTest : public testing::Test
 {
 protected:
@@ -97,6 +109,17 @@ TEST_F(PictureFileTest, KeepsEveryPixel)
     }
     EXPECT_EQ(Files().size(), 5u);
     EXPECT_TRUE(log.lines.empty());
+}
+
+TEST_F(PictureFileTest, IsTheSameOfAPictureInRows)
+{
+    for (const char* ending : {".png", ".jpg", ".bmp", ".pcx", ".pnm", ".tif"})
+    {
+        ASSERT_TRUE(render::SavePicture(render::ImageOf(MotleyRows()), home.Path("whole") + ending));
+        ASSERT_TRUE(render::SavePicture(MotleyRows(), home.Path("rows") + ending));
+        EXPECT_TRUE(home.Read("rows" + wxString(ending)) == home.Read("whole" + wxString(ending))) << ending;
+        EXPECT_GT(home.Read("rows" + wxString(ending)).size(), 100u);
+    }
 }
 
 TEST_F(PictureFileTest, IsAJpegOfQuality90)
@@ -209,16 +232,20 @@ TEST_F(PictureFileTest, LeavesTheOlderOneAloneWhenItCannotBeFinished)
     {
         home.Write(name, "old");
         for (const rlim_t room : {0, 60})
-        {
-            log.lines.clear();
+            for (const bool inRows : {false, true})
             {
-                const FullDisk disk(room);
-                EXPECT_FALSE(render::SavePicture(Motley(), home.Path(name))) << name << ", " << room;
+                log.lines.clear();
+                {
+                    const FullDisk disk(room);
+                    EXPECT_FALSE(inRows ? render::SavePicture(MotleyRows(), home.Path(name))
+                                        : render::SavePicture(Motley(), home.Path(name)))
+                        << name << ", " << room;
+                }
+                ASSERT_FALSE(log.lines.empty()) << name;
+                EXPECT_TRUE(
+                    Says(log.lines.back(), "Couldn't write the picture " + home.Path(name) + ": File too large"));
+                EXPECT_EQ(home.Read(name), "old");
             }
-            ASSERT_FALSE(log.lines.empty()) << name;
-            EXPECT_TRUE(Says(log.lines.back(), "Couldn't write the picture " + home.Path(name) + ": File too large"));
-            EXPECT_EQ(home.Read(name), "old");
-        }
     }
     EXPECT_EQ(Files().size(), 6u);
 }
