@@ -122,7 +122,7 @@ void Configuration::WriteAllTo(wxConfigBase& target)
 
 void Configuration::LatLonToLocator(wxString& locator, double lat, double lon)
 {
-    const auto characters = geo::LocatorOf(lat, lon);
+    const auto characters = geo::LocatorOf({lat, lon});
     if (!characters)
         return;
     const std::size_t length = std::min(locator.length(), characters->size());

@@ -28,8 +28,9 @@ bool IsBetween(char c, char first, char last)
 }
 } // namespace
 
-std::optional<Locator> LocatorOf(double lat, double lon)
+std::optional<Locator> LocatorOf(LatLon position)
 {
+    const auto [lat, lon] = position;
     if (!(lat >= -90 && lat <= 90 && lon >= -180 && lon <= 180))
         return std::nullopt;
     double lonFields = (lon + 180) / 20;

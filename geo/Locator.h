@@ -1,18 +1,13 @@
 #pragma once
 
+#include "geo/LatLon.h"
+
 #include <array>
 #include <optional>
 #include <string_view>
 
 namespace geo
 {
-/// A position in decimal degrees, north and east positive.
-struct LatLon
-{
-    double lat;
-    double lon;
-};
-
 /// Six characters: field letters, square digits, subsquare letters; longitude before latitude in each pair.
 using Locator = std::array<char, 6>;
 
@@ -22,7 +17,7 @@ using Locator = std::array<char, 6>;
  * @return none unless -90 <= lat <= 90 and -180 <= lon <= 180. Longitude +180 is the same as -180; latitude +90 gives
  *         the letter "S", one past the last field.
  */
-std::optional<Locator> LocatorOf(double lat, double lon);
+std::optional<Locator> LocatorOf(LatLon position);
 
 /**
  * The centre of a subsquare.

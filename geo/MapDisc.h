@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/AzimuthalProjection.h"
+#include "geo/LatLon.h"
 #include "geo/MapFrame.h"
 
 #include <cstdint>
@@ -8,13 +9,6 @@
 
 namespace geo
 {
-/// A position in radians, north and east positive.
-struct LatLonRad
-{
-    double lat;
-    double lon;
-};
-
 /**
  * The part of a map picture that shows the earth: the pixels whose distance d from the station, in whole metres,
  * satisfies 1 <= d < limit. Neither the station's own pixel nor anything beyond the antipode belongs to it.

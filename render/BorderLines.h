@@ -23,7 +23,7 @@ public:
     template <class Sink>
     void Add(const BorderRecord& record, Sink& segment)
     {
-        const auto pixel = m_view.VisiblePixel(record.lon * kRadPerMinute, record.lat * kRadPerMinute);
+        const auto pixel = m_view.VisiblePixel({.lat = record.lat * kRadPerMinute, .lon = record.lon * kRadPerMinute});
         if (!pixel)
             m_pen.Lift();
         else if (record.code >= 1000)

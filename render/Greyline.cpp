@@ -44,18 +44,14 @@ std::vector<geo::Pixel> SunAt(geo::Pixel place)
 
 geo::GreylineShade ShadeOf(const GreyzoneSettings& greyzone, geo::LatLon subSolarPoint)
 {
-    return {{subSolarPoint.lat * geo::kRadPerDeg, subSolarPoint.lon * geo::kRadPerDeg},
-            static_cast<double>(greyzone.widthDeg),
-            greyzone.gradient,
-            static_cast<double>(greyzone.darkeningGrey),
-            static_cast<double>(greyzone.darkeningNight)};
+    return {geo::InRadians(subSolarPoint), static_cast<double>(greyzone.widthDeg), greyzone.gradient,
+            static_cast<double>(greyzone.darkeningGrey), static_cast<double>(greyzone.darkeningNight)};
 }
 
 GreylineOverlay::GreylineOverlay(const MapView& view, const GreyzoneSettings& greyzone, geo::LatLon subSolarPoint)
     : m_side(view.frame.mapSize), m_shade(view.Disc(), ShadeOf(greyzone, subSolarPoint))
 {
-    const geo::LatLonRad sun = ShadeOf(greyzone, subSolarPoint).sun;
-    if (const auto place = view.VisiblePixel(sun.lon, sun.lat))
+    if (const auto place = view.VisiblePixel(geo::InRadians(subSolarPoint)))
         m_sun = SunAt(*place);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geo/Angles.h"
+#include "geo/LatLon.h"
 #include "render/MapView.h"
 
 #include <wx/dc.h>
@@ -21,7 +21,8 @@ void TraceFieldLabels(const MapView& view, Sink label)
 {
     for (int lon = -170; lon <= 170; lon += 20)
         for (int lat = -75; lat <= 75; lat += 10)
-            if (const auto pixel = view.VisiblePixel(lon * geo::kRadPerDeg, lat * geo::kRadPerDeg))
+            if (const auto pixel =
+                    view.VisiblePixel(geo::InRadians({static_cast<double>(lat), static_cast<double>(lon)})))
                 label(*pixel, FieldName(lon, lat));
 }
 
@@ -41,7 +42,7 @@ void TraceSquareLabels(const MapView& view, Sink label)
             {
                 const int lon = west + 2 * (number / 10) + 1;
                 const double lat = south + number % 10 + 0.5;
-                if (const auto pixel = view.VisiblePixel(lon * geo::kRadPerDeg, lat * geo::kRadPerDeg))
+                if (const auto pixel = view.VisiblePixel(geo::InRadians({lat, static_cast<double>(lon)})))
                     label(*pixel, number);
             }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geo/Angles.h"
+#include "geo/LatLon.h"
 #include "render/MapView.h"
 #include "render/ThinnedPen.h"
 

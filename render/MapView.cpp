@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <limits>
 
-std::optional<geo::Pixel> MapView::VisiblePixel(double lonRad, double latRad) const
+std::optional<geo::Pixel> MapView::VisiblePixel(geo::LatLonRad position) const
 {
-    return VisiblePixel(projection.EastOfCentre(lonRad), SineCosine(latRad));
+    return VisiblePixel(projection.EastOfCentre(position.lon), SineCosine(position.lat));
 }
 
 std::optional<geo::Pixel> MapView::VisiblePixel(const SineCosine& east, const SineCosine& lat) const

@@ -2,6 +2,7 @@
 
 #include "config/Settings.h"
 #include "geo/AzimuthalProjection.h"
+#include "geo/LatLon.h"
 #include "geo/MapDisc.h"
 #include "geo/MapFrame.h"
 
@@ -28,14 +29,14 @@ struct MapView
     geo::MapDisc Disc() const { return {projection, frame, visibleLimit}; }
 
     /**
-     * The pixel of a place given in radians; none where the place is not visible. The pixel may lie outside the
+     * The pixel of a place; none where the place is not visible. The pixel may lie outside the
      * picture.
      *
      * No place on earth lies farther than 2^20 pixels from the station on any map. What the projection puts beyond that
      * is arbitrary (it has no value for the antipode) and counts as not visible, so that drawings can calculate with
      * pixels without running over.
      */
-    std::optional<geo::Pixel> VisiblePixel(double lonRad, double latRad) const;
+    std::optional<geo::Pixel> VisiblePixel(geo::LatLonRad position) const;
 
     /// The same for many places on one meridian or parallel: see AzimuthalProjection::Forward().
     std::optional<geo::Pixel> VisiblePixel(const SineCosine& east, const SineCosine& lat) const;

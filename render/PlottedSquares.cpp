@@ -1,6 +1,5 @@
 #include "render/PlottedSquares.h"
 
-#include "geo/Angles.h"
 #include "render/Hatch.h"
 #include "render/Style.h"
 
@@ -22,20 +21,19 @@ char LocatorCharacter(wchar_t c)
 
 /// The cosine of the angle between a place and the centre, which tells the two places where the projection has no
 /// value from each other.
-double CosineOfDistance(const AzimuthalProjection& projection, double lonRad, double latRad)
+double CosineOfDistance(const AzimuthalProjection& projection, geo::LatLonRad place)
 {
-    return projection.sinLat0 * std::sin(latRad) +
-           projection.cosLat0 * std::cos(latRad) * std::cos(lonRad - projection.centreLon);
+    return projection.sinLat0 * std::sin(place.lat) +
+           projection.cosLat0 * std::cos(place.lat) * std::cos(place.lon - projection.centreLon);
 }
 
-std::optional<wxPoint> CornerPixel(const MapView& view, double lon, double lat)
+std::optional<wxPoint> CornerPixel(const MapView& view, geo::LatLon corner)
 {
     constexpr double kAtAntipode = -1.0 + 1e-12; // within ten metres
-    const double lonRad = lon * geo::kRadPerDeg;
-    const double latRad = lat * geo::kRadPerDeg;
-    const double cosine = CosineOfDistance(view.projection, lonRad, latRad);
+    const geo::LatLonRad position = geo::InRadians(corner);
+    const double cosine = CosineOfDistance(view.projection, position);
     geo::MapPoint place{};
-    const std::int64_t distance = view.projection.Forward(place.x, place.y, lonRad, latRad);
+    const std::int64_t distance = view.projection.Forward(place.x, place.y, position.lon, position.lat);
     if (cosine < kAtAntipode || distance > view.visibleLimit)
         return std::nullopt;
     if (distance < 1)
@@ -64,7 +62,7 @@ std::optional<SquareOutline> OutlineOfSquare(const MapView& view, geo::LatLon so
     SquareOutline outline;
     for (std::size_t i = 0; i < outline.size(); ++i)
     {
-        const auto corner = CornerPixel(view, southWest.lon + kCorners[i][1], southWest.lat + kCorners[i][0]);
+        const auto corner = CornerPixel(view, {southWest.lat + kCorners[i][0], southWest.lon + kCorners[i][1]});
         if (!corner)
             return std::nullopt;
         outline[i] = *corner;

@@ -1,6 +1,5 @@
 #include "render/TextLabels.h"
 
-#include "geo/Angles.h"
 #include "render/LabelBox.h"
 #include "render/Occupancy.h"
 #include "render/Style.h"
@@ -34,7 +33,7 @@ public:
 
     void Write(const TextLabel& label)
     {
-        const auto place = m_view.VisiblePixel(label.lon * geo::kRadPerDeg, label.lat * geo::kRadPerDeg);
+        const auto place = m_view.VisiblePixel(geo::InRadians(label.place));
         if (!place)
             return;
         const wxSize extent = m_dc.GetTextExtent(label.text);
@@ -64,7 +63,7 @@ std::optional<TextLabel> ParseTextLabel(std::wstring_view line)
     fields.GetNextToken();
     const double lat = wxAtof(fields.GetNextToken());
     const double lon = wxAtof(fields.GetNextToken());
-    return TextLabel{text, lat, lon};
+    return TextLabel{text, {lat, lon}};
 }
 
 std::optional<std::wstring> ReadLabelFile(const wxString& file)

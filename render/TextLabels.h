@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geo/LatLon.h"
 #include "render/MapView.h"
 
 #include <wx/dc.h>
@@ -14,8 +15,7 @@ namespace render
 struct TextLabel
 {
     wxString text;
-    double lat; ///< degrees, north positive
-    double lon; ///< degrees, east positive
+    geo::LatLon place;
 };
 
 /**

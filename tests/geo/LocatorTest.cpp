@@ -8,7 +8,7 @@ namespace
 {
 std::string LocatorText(double lat, double lon)
 {
-    const auto locator = geo::LocatorOf(lat, lon);
+    const auto locator = geo::LocatorOf({lat, lon});
     return locator ? std::string(locator->begin(), locator->end()) : "none";
 }
 

@@ -79,7 +79,7 @@ protected:
         wxBitmap overlay(drawn);
         const render::BitmapPixels pixels(overlay);
         const MapView view = View();
-        const auto sunPixel = view.VisiblePixel(sun.lon / kDegrees, sun.lat / kDegrees);
+        const auto sunPixel = view.VisiblePixel({sun.lat / kDegrees, sun.lon / kDegrees});
         int wrong = 0;
         for (int y = 0; y < pixels.Height(); ++y)
             for (int x = 0; x < pixels.Width(); ++x)
@@ -195,7 +195,7 @@ TEST_F(GreylineTest, HasASunOverItsSubSolarPoint)
 {
     const auto overlay = Draw(kMarchNoon);
     const render::BitmapPixels pixels(*overlay);
-    const auto sun = View().VisiblePixel(kMarchNoon.lon / kDegrees, kMarchNoon.lat / kDegrees);
+    const auto sun = View().VisiblePixel({kMarchNoon.lat / kDegrees, kMarchNoon.lon / kDegrees});
     ASSERT_TRUE(sun);
     constexpr Argb kYellow = render::OpaquePixel(255, 255, 0);
     const auto at = [&](int dx, int dy) { return pixels.Row(sun->y + dy)[static_cast<std::size_t>(sun->x + dx)]; };

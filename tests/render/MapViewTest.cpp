@@ -109,7 +109,7 @@ TEST_F(MapViewTest, PutsNoPlaceFartherAwayThanTwoToTheTwentiethPixel)
     const auto pixelAt = [&](double east, double north, double pixels)
     {
         view.frame.metresPerPixel = 1e6 / pixels;
-        return view.VisiblePixel(east * kThousandKm, north * kThousandKm);
+        return view.VisiblePixel({north * kThousandKm, east * kThousandKm});
     };
     const int half = view.frame.half;
     constexpr int kFarthest = 1048576;

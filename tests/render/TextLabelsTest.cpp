@@ -67,8 +67,8 @@ TEST(TextLabel, IsTakenFromTheFieldsOfALine)
     const auto label = render::ParseTextLabel(L"JP;Tokyo;Capital;JPN;35.6850;-139.75;22006299");
     ASSERT_TRUE(label);
     EXPECT_EQ(label->text, "Tokyo");
-    EXPECT_EQ(label->lat, 35.685);
-    EXPECT_EQ(label->lon, -139.75);
+    EXPECT_EQ(label->place.lat, 35.685);
+    EXPECT_EQ(label->place.lon, -139.75);
 }
 
 TEST(TextLabel, DropsEmptyFields)
@@ -76,8 +76,8 @@ TEST(TextLabel, DropsEmptyFields)
     const auto label = render::ParseTextLabel(L";;a;;Name;;;State;b;;1.5;2.5;");
     ASSERT_TRUE(label);
     EXPECT_EQ(label->text, "Name");
-    EXPECT_EQ(label->lat, 1.5);
-    EXPECT_EQ(label->lon, 2.5);
+    EXPECT_EQ(label->place.lat, 1.5);
+    EXPECT_EQ(label->place.lon, 2.5);
 }
 
 TEST(TextLabel, IsNoneForACountryInExactlyThatSpelling)
@@ -95,10 +95,10 @@ TEST(TextLabel, TakesMissingFieldsAsEmptyAndZero)
         const auto label = render::ParseTextLabel(line);
         ASSERT_TRUE(label);
         EXPECT_EQ(label->text, "");
-        EXPECT_EQ(label->lat, 0);
+        EXPECT_EQ(label->place.lat, 0);
     }
-    EXPECT_EQ(render::ParseTextLabel(L"a;Name;State;b;north;12.5E")->lat, 0);
-    EXPECT_EQ(render::ParseTextLabel(L"a;Name;State;b;north;12.5E")->lon, 12.5);
+    EXPECT_EQ(render::ParseTextLabel(L"a;Name;State;b;north;12.5E")->place.lat, 0);
+    EXPECT_EQ(render::ParseTextLabel(L"a;Name;State;b;north;12.5E")->place.lon, 12.5);
 }
 
 TEST(TextLabel, SurvivesLinesThatAreNone)
@@ -106,10 +106,10 @@ TEST(TextLabel, SurvivesLinesThatAreNone)
     std::wstring manyFields;
     for (int i = 0; i < 10000; ++i)
         manyFields += L"7;";
-    EXPECT_EQ(render::ParseTextLabel(manyFields)->lat, 7);
+    EXPECT_EQ(render::ParseTextLabel(manyFields)->place.lat, 7);
     EXPECT_EQ(render::ParseTextLabel(std::wstring(10000000, L'x'))->text, "");
     EXPECT_EQ(render::ParseTextLabel(L"a;" + std::wstring(10000000, L'x') + L";b;c;1;2")->text.length(), 1000u);
-    EXPECT_EQ(render::ParseTextLabel(std::wstring(L"a;b\0c;d;e;1;2", 13))->lat, 1);
+    EXPECT_EQ(render::ParseTextLabel(std::wstring(L"a;b\0c;d;e;1;2", 13))->place.lat, 1);
 }
 
 class TextLabelsTest : public LayerFixture

@@ -1,7 +1,6 @@
 #include "ui/options/HomePage.h"
 
 #include "config/Configuration.h"
-#include "geo/Angles.h"
 #include "geo/AzimuthalProjection.h"
 #include "ui/options/Guide.h"
 #include "ui/options/Placing.h"
@@ -17,7 +16,8 @@ double Distance(geo::LatLon a, geo::LatLon b)
     projection.Init(0, 0, a.lat, a.lon);
     double x = 0.0;
     double y = 0.0;
-    const std::int64_t metres = projection.Forward(x, y, b.lon * geo::kRadPerDeg, b.lat * geo::kRadPerDeg);
+    const auto [lat, lon] = geo::InRadians(b);
+    const std::int64_t metres = projection.Forward(x, y, lon, lat);
     return metres > 0 ? static_cast<double>(metres) / 1000 : 0.0;
 }
 
