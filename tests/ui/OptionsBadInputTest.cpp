@@ -137,4 +137,14 @@ TEST_F(OptionsBadInput, KeepsLongTextsAndUnknownFonts)
     EXPECT_EQ(settings.texts[1].font, "NoSuchFace 11");
     EXPECT_EQ(settings.texts[2].font, "");
 }
+TEST_F(OptionsBadInput, LeavesAStoredNumberAloneWhateverWasTypedBefore)
+{
+    Type(dialog->m_settingsPage.zoom, "500");
+    Type(dialog->m_voacapPage.main.userFrequency, "7.1"); // looks at all that is typed
+    Type(dialog->m_settingsPage.zoom, "far");
+    EXPECT_EQ(settings.zoom, 20000);
+    ClickOk();
+    EXPECT_EQ(settings.zoom, 20000);
+    EXPECT_EQ(settings.propagation.userFrequencyMHz, "7.1");
+}
 } // namespace

@@ -209,4 +209,12 @@ TEST_F(OptionsFiles, AreNeitherLoadedFromNorSavedToAPipe)
     EXPECT_EQ(settings.size, 123);
     EXPECT_EQ(settings.lastIniDirectory, "");
 }
+TEST_F(OptionsFiles, RememberTheDirectoryOfASaveWhenTheDialogEndsWithOk)
+{
+    Save(home.Path("mine.ini"));
+    const wxString directory = settings.lastIniDirectory;
+    EXPECT_NE(directory, "");
+    ClickOk();
+    EXPECT_EQ(settings.lastIniDirectory, directory);
+}
 } // namespace
