@@ -10,6 +10,7 @@
 #include <charconv>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <getopt.h>
 #include <unistd.h>
@@ -30,6 +31,12 @@ Draws azimuthal maps of the world as seen from a radio station.
   -t, --time TIME        draw for this UTC time, written YYYY-MM-DDTHH:MM
       --voacapl-timeout SECONDS
                          with --render: end voacapl when it takes longer (600)
+      --rotator HOST[:PORT]
+                         turn the antenna through the rotctld there (port 4533)
+      --aim PLACE        print the bearing of PLACE, turn the antenna there if there
+                         is a rotator, and exit; a locator, "lat,lon", or a prefix,
+                         city or country
+      --long-path        with --aim: the long way round
 
 Exit status: 0 all went well, 1 nothing was written, 2 the picture was written but
 a layer failed.
@@ -37,12 +44,18 @@ a layer failed.
 
 constexpr int kVersionOption = 256;
 constexpr int kTimeoutOption = 257;
+constexpr int kRotatorOption = 258;
+constexpr int kAimOption = 259;
+constexpr int kLongPathOption = 260;
 constexpr option kOptions[] = {{"help", no_argument, nullptr, 'h'},
                                {"version", no_argument, nullptr, kVersionOption},
                                {"settings", required_argument, nullptr, 's'},
                                {"render", required_argument, nullptr, 'r'},
                                {"time", required_argument, nullptr, 't'},
                                {"voacapl-timeout", required_argument, nullptr, kTimeoutOption},
+                               {"rotator", required_argument, nullptr, kRotatorOption},
+                               {"aim", required_argument, nullptr, kAimOption},
+                               {"long-path", no_argument, nullptr, kLongPathOption},
                                {nullptr, 0, nullptr, 0}};
 
 CommandLine Done(int status)
@@ -75,6 +88,16 @@ CommandLine WrongUse(const std::string& what)
 {
     std::fprintf(stderr, "kavmap: %s\n", what.c_str());
     return Done(1);
+}
+
+/// Takes the rotator of the environment where the command line has none and one is of use. @return what is wrong.
+std::string TakeRotatorOfEnvironment(CommandLine& line)
+{
+    const char* const text = std::getenv("KAVMAP_ROTATOR");
+    if (line.rotator || line.render || !text || !*text)
+        return "";
+    line.rotator = rotator::ParseAddress(text);
+    return line.rotator ? "" : std::string("KAVMAP_ROTATOR is no HOST[:PORT]: ") + text;
 }
 } // namespace
 
@@ -134,11 +157,28 @@ CommandLine ParseCommandLine(int argc, char** argv)
             line.voacaplTimeout = *timeout;
             break;
         }
+        case kRotatorOption:
+            line.rotator = rotator::ParseAddress(optarg);
+            if (!line.rotator)
+                return WrongUse(std::string("not a rotator's HOST[:PORT]: ") + optarg);
+            break;
+        case kAimOption:
+            line.aim = optarg;
+            break;
+        case kLongPathOption:
+            line.longPath = true;
+            break;
         default:
             return Done(1);
         }
     if (optind < argc)
         return WrongUse(std::string("unexpected argument: ") + argv[optind]);
+    if (line.aim && line.render)
+        return WrongUse("--aim and --render don't go together");
+    if (line.longPath && !line.aim)
+        return WrongUse("--long-path goes with --aim");
+    if (const std::string wrong = TakeRotatorOfEnvironment(line); !wrong.empty())
+        return WrongUse(wrong);
     return line;
 }
 } // namespace app

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/UtcTime.h"
+#include "rotator/Address.h"
 
 #include <chrono>
 #include <optional>
@@ -15,12 +16,15 @@ struct CommandLine
     std::optional<std::string> render;        ///< write the map to this picture, show no window
     std::optional<UtcTime> time;              ///< draw for this time
     std::chrono::seconds voacaplTimeout{600}; ///< for --render: after it voacapl is ended
+    std::optional<std::string> aim;           ///< print the bearing of this place, show no window
+    bool longPath = false;                    ///< with aim: the other way round
+    std::optional<rotator::Address> rotator;  ///< of the antenna
     std::optional<int> exitStatus;            ///< nothing is left to do: all was printed
 };
 
 /**
  * Reads the command line. Help and version go to standard output; wrong use goes to standard error as "kavmap: " and
- * what was wrong. Needs neither toolkit nor display.
+ * what was wrong. The environment variable KAVMAP_ROTATOR stands in for --rotator. Needs neither toolkit nor display.
  */
 CommandLine ParseCommandLine(int argc, char** argv);
 

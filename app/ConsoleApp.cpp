@@ -1,5 +1,6 @@
 #include "app/ConsoleApp.h"
 
+#include "app/Aim.h"
 #include "app/BatchRender.h"
 #include "app/FileNames.h"
 #include "app/StartSettings.h"
@@ -40,6 +41,9 @@ bool ConsoleApp::OnInit()
 
 int ConsoleApp::OnRun()
 {
-    return RenderToFile(*StartSettings(m_commandLine), FileName(*m_commandLine.render), m_commandLine.voacaplTimeout);
+    const auto settings = StartSettings(m_commandLine);
+    if (m_commandLine.aim)
+        return Aim(*settings, m_commandLine);
+    return RenderToFile(*settings, FileName(*m_commandLine.render), m_commandLine.voacaplTimeout);
 }
 } // namespace app

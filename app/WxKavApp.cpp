@@ -35,7 +35,7 @@ bool WxKavApp::OnInit()
     app::TakeFileNamesAsBytes();
     wxInitAllImageHandlers();
 
-    auto* const frame = new WxKavFrame(nullptr, app::StartSettings(m_commandLine));
+    auto* const frame = new WxKavFrame(nullptr, app::StartSettings(m_commandLine), m_commandLine.rotator);
     frame->SetTitle(wxGetTranslation("Kavmap V" KAV_VERSION " Linux QQ0QQQ"));
     frame->SetIcon(wxIcon(icon_window));
     frame->Show();

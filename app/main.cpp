@@ -41,7 +41,7 @@ int main(int argc, char** argv)
         return 1;
     }
     EmptyStandardInput();
-    wxAppConsole::SetInitializerFunction(line.render ? NewApp<app::ConsoleApp> : NewApp<WxKavApp>);
+    wxAppConsole::SetInitializerFunction(line.render || line.aim ? NewApp<app::ConsoleApp> : NewApp<WxKavApp>);
     int toolkitArgc = 1;
     const int status = wxEntry(toolkitArgc, argv);
     return status < 0 ? 1 : status;

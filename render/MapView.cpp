@@ -32,12 +32,18 @@ std::int64_t VisibleLimit(const Settings& settings)
     return settings.compass.show ? std::clamp(settings.zoom, -kLargest, kLargest) * 1000 : 20000000;
 }
 
+AzimuthalProjection StationProjection(const Settings& settings)
+{
+    AzimuthalProjection projection;
+    projection.Init(0, 0, std::clamp(settings.centreLat, -90.0, 90.0), std::clamp(settings.centreLon, -180.0, 180.0));
+    return projection;
+}
+
 MapView MakeMapView(const Settings& settings, int compassTextHeight)
 {
     const int size = static_cast<int>(settings.size);
     MapView view;
-    view.projection.Init(0, 0, std::clamp(settings.centreLat, -90.0, 90.0),
-                         std::clamp(settings.centreLon, -180.0, 180.0));
+    view.projection = StationProjection(settings);
     view.compassTextHeight = settings.compass.text.show ? compassTextHeight : 1;
     // The ring drawn outside the disc needs room.
     const int ring = settings.compass.insideMap ? 0 : size / 100;

@@ -54,10 +54,13 @@ std::int64_t MapRadius(long zoomKm);
 /// 20000000 m, or with the compass shown the "Zoom" as it stands in metres.
 std::int64_t VisibleLimit(const Settings& settings);
 
+/// The projection around the station of the settings, which is brought into -90..90 and -180..180 degrees first.
+AzimuthalProjection StationProjection(const Settings& settings);
+
 /**
  * The view of a new map.
  *
- * @param[in] settings      its centre is brought into -90..90 and -180..180 degrees first.
+ * @param[in] settings      its centre is that of StationProjection().
  * @param[in] compassTextHeight height of the compass font in pixels; it becomes the margin when the figures are shown.
  * @pre the size lies in kMinMapSize..kMaxMapSize.
  */

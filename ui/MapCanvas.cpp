@@ -47,6 +47,12 @@ void MapCanvas::ShowPicture()
     Update();
 }
 
+void MapCanvas::RefreshPlaces(const std::vector<wxRect>& places)
+{
+    for (const wxRect& place : places)
+        RefreshRect(wxRect(CalcScrolledPosition(place.GetPosition()), place.GetSize()), false);
+}
+
 void MapCanvas::OnPaint(wxPaintEvent&)
 {
     wxAutoBufferedPaintDC dc(this);
@@ -54,6 +60,8 @@ void MapCanvas::OnPaint(wxPaintEvent&)
     dc.Clear();
     DoPrepareDC(dc);
     Draw(dc);
+    if (onPainted)
+        onPainted(dc);
     m_cross.Draw(dc);
 }
 

@@ -7,6 +7,8 @@
 #include <wx/scrolwin.h>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 /// The scrolled panel that shows a map picture: the map, over it the greyline, over that the propagation overlay; and,
 /// where the keyboard asks for it, a cross that is no part of the picture.
@@ -23,8 +25,17 @@ public:
     /// Shows the picture as it is now, at once.
     void ShowPicture();
 
+    /// Has some places of the map painted anew, and nothing else.
+    void RefreshPlaces(const std::vector<wxRect>& places);
+
+    /// The pixel of the keyboard's cross, if it is there.
+    const std::optional<wxPoint>& Cross() const { return m_cross.Place(); }
+
     /// Told where on the map the keyboard has moved the cross; nobody by default.
     std::function<void(const wxPoint& pixel)> onCross;
+
+    /// Draws what lies over the picture on the screen and is no part of it; nobody by default.
+    std::function<void(wxDC& dc)> onPainted;
 
 private:
     void ScrollIntoMiddle(wxPoint pixel);

@@ -1,8 +1,9 @@
 #include "ui/WxKavFrame.h"
 
-#include "geo/Angles.h"
 #include "render/PictureFile.h"
 #include "ui/Ids.h"
+#include "ui/MapMenu.h"
+#include "ui/MapSpot.h"
 #include "ui/Native.h"
 #include "ui/options/KavMapOptions.h"
 
@@ -15,7 +16,8 @@
 
 WxKavFrame::WxKavFrame(wxWindow* parent) : WxKavFrame(parent, std::make_unique<Configuration>("Kavdex")) {}
 
-WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings)
+WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings,
+                       const std::optional<rotator::Address>& rotator)
     : GUIFrame(parent),
       MapMaker(*settings, *m_canvas, *this),
       m_greylineTimer(this, ui::kIdGreylineTimer),
@@ -38,6 +40,9 @@ WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings
         ShowReadOut(pixel);
         ui::native::Announce(m_statusBar, GetStatusBar()->GetStatusText(0));
     };
+    m_canvas->Bind(wxEVT_CONTEXT_MENU, &WxKavFrame::OnCanvasMenu, this);
+    if (rotator)
+        ConnectAntenna(*rotator);
     Bind(wxEVT_CHAR_HOOK, &WxKavFrame::OnKey, this);
     m_canvas->mapReady = true;
 }
@@ -113,25 +118,35 @@ void WxKavFrame::OnCanvasMotion(wxMouseEvent& event)
 
 void WxKavFrame::ShowReadOut(const wxPoint& pixel)
 {
-    if (!View() || m_wait != Wait::None)
+    if (View() && m_wait == Wait::None)
+        SetStatusText(ui::ReadOutOf(ui::SpotAt(*View(), pixel)), 0);
+}
+
+void WxKavFrame::OnCanvasMenu(const wxContextMenuEvent& event)
+{
+    if (m_wait != Wait::None)
         return;
-    const geo::MapPoint point = View()->frame.PixelToMap(pixel.x, pixel.y);
-    const auto [distanceKm, bearingDeg] = geo::RangeAndBearingOf(point);
-    if (static_cast<double>(View()->frame.mapRadius / 1000) <= distanceKm)
+    // The Menu key has no position.
+    const bool hasPointer = event.GetPosition() != wxDefaultPosition;
+    const auto pixel = hasPointer ? m_canvas->CalcUnscrolledPosition(m_canvas->ScreenToClient(event.GetPosition()))
+                                  : m_canvas->Cross();
+    std::optional<ui::MapSpot> spot;
+    if (View() && pixel)
+        spot = ui::SpotAt(*View(), *pixel);
+    const auto centre = [this](const wxString& locator) { m_locator->ChangeValue(locator); };
+    ui::ShowMenu(*m_canvas, ui::MapMenuRows(spot, m_antenna ? &*m_antenna : nullptr, centre),
+                 pixel ? m_canvas->CalcScrolledPosition(*pixel) : wxDefaultPosition);
+}
+
+void WxKavFrame::ConnectAntenna(const rotator::Address& rotator)
+{
+    const auto say = [this](const wxString& text)
     {
-        SetStatusText("", 0);
-        return;
-    }
-    double lon{};
-    double lat{};
-    View()->projection.Inverse(lon, lat, point.x, point.y);
-    lon *= geo::kDegPerRad;
-    lat *= geo::kDegPerRad;
-    wxString locator = kScratchLocator;
-    Configuration::LatLonToLocator(locator, lat, lon);
-    SetStatusText(wxString::Format("lat = %3.1f / long = %3.1f / %s / %5.1f km / %3.1f degs", lat, lon, locator,
-                                   distanceKm, bearingDeg),
-                  0);
+        SetStatusText(text, 0);
+        ui::native::Announce(m_statusBar, text);
+    };
+    m_antenna.emplace(
+        rotator, *m_canvas, [this] { return View() ? &*View() : nullptr; }, say);
 }
 
 wxString WxKavFrame::DefaultPictureName() const

@@ -2,6 +2,7 @@
 
 #include "config/Configuration.h"
 #include "maker/MapMaker.h"
+#include "ui/Antenna.h"
 #include "ui/CommandsOff.h"
 #include "ui/GUIFrame.h"
 
@@ -23,7 +24,9 @@ class WxKavFrame : public GUIFrame, private MapListener, public MapMaker
 public:
     /// With the settings of the working file.
     explicit WxKavFrame(wxWindow* parent);
-    WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings);
+    /// @param[in] rotator where the rotator of the antenna is, if there is one.
+    WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings,
+               const std::optional<rotator::Address>& rotator = std::nullopt);
 
     /**
      * Creates the map that the settings describe: base picture, layers, overlays.
@@ -76,7 +79,9 @@ protected:
 private:
     wxString DefaultPictureName() const;
     void ShowReadOut(const wxPoint& pixel); ///< of a pixel of the map
-    void ResetOverlays();                   ///< hides them and stops following the clock: the settings have changed
+    void OnCanvasMenu(const wxContextMenuEvent& event);
+    void ConnectAntenna(const rotator::Address& rotator);
+    void ResetOverlays(); ///< hides them and stops following the clock: the settings have changed
 
     void TakeCentreFromLocatorField();
     void EnableCreationTools(bool enable); ///< those for creating, saving and options
@@ -114,4 +119,5 @@ private:
     UtcTime m_waitSince{};
     std::optional<ui::CommandsOff> m_commandsOff; ///< for as long as the propagation overlay is made
     wxString m_warning;                           ///< about the propagation overlay
+    std::optional<ui::Antenna> m_antenna;         ///< where there is a rotator
 };

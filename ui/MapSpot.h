@@ -1,0 +1,32 @@
+#pragma once
+
+#include "geo/MapFrame.h"
+#include "render/MapView.h"
+
+#include <wx/gdicmn.h>
+#include <wx/string.h>
+
+#include <optional>
+
+namespace ui
+{
+/// A place on the earth.
+struct MapPlace
+{
+    double lat; ///< degrees, north positive
+    double lon; ///< degrees, east positive
+    wxString locator;
+};
+
+/// What lies at a pixel of the map.
+struct MapSpot
+{
+    geo::RangeAndBearing fromStation;
+    std::optional<MapPlace> place; ///< none on the rim of the disc and outside
+};
+
+MapSpot SpotAt(const MapView& view, const wxPoint& pixel);
+
+/// The read-out of a spot, empty where there is no place.
+wxString ReadOutOf(const MapSpot& spot);
+} // namespace ui
