@@ -116,6 +116,13 @@ void Announce(wxWindow* window, const wxString& text)
         g_signal_emit_by_name(object, "announcement", text.utf8_str().data());
 }
 
+void DismissMenu()
+{
+    GtkWidget* const owner = gtk_grab_get_current();
+    if (GTK_IS_MENU_SHELL(owner))
+        gtk_menu_shell_deactivate(GTK_MENU_SHELL(owner));
+}
+
 void Name(wxWindow* window, const wxString& name)
 {
     for (GtkWidget* const part : PartsOf(window->GetHandle()))

@@ -21,6 +21,9 @@ bool MoveFocusOnToolBar(wxToolBar* bar, int step);
 /// Has screen readers say something now.
 void Announce(wxWindow* window, const wxString& text);
 
+/// Closes the menu that is open, if one is.
+void DismissMenu();
+
 /// Names what is inside a window, for screen readers: the control itself or the parts of it that take keys.
 void Name(wxWindow* window, const wxString& name);
 

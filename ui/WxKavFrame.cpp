@@ -65,6 +65,8 @@ void WxKavFrame::SetPropagationTools(bool enable, int frequencyIndex, int parame
 
 void WxKavFrame::OnClose(wxCloseEvent&)
 {
+    // The rows of a context menu act on this window.
+    ui::native::DismissMenu();
     if (m_wait == Wait::None)
         Destroy();
     else

@@ -111,24 +111,16 @@ TEST_F(RotatorTest, PointsAtBearings)
 
 TEST_F(RotatorTest, AsksForThePositionOnceASecond)
 {
-    std::atomic<int> asked = 0;
-    FakeRotctld* self = nullptr;
-    FakeRotctld rotctld(
-        [&](const std::string& command)
-        {
-            asked += command == "get_pos";
-            return self->Obey(command);
-        });
-    self = &rotctld;
+    FakeRotctld rotctld;
     Use(rotctld.Address());
     ASSERT_TRUE(AwaitBearing());
     now += std::chrono::milliseconds(999);
     StepOften();
-    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(rotctld.positions, 1);
     now += std::chrono::milliseconds(1);
-    ASSERT_TRUE(Await([&] { return asked == 2; }));
+    ASSERT_TRUE(Await([&] { return rotctld.positions == 2; }));
     StepOften();
-    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(rotctld.positions, 2);
 }
 
 TEST_F(RotatorTest, AnAntennaThatComesToRestElsewhereHasNoTarget)

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 /// A real main window on an empty home, with small maps, and what a user can do to it.
 class FrameFixture : public testing::Test
 {
@@ -17,7 +19,7 @@ protected:
         auto fresh = std::make_unique<Configuration>("Kavdex");
         settings = fresh.get();
         settings->size = 200;
-        frame = new WxKavFrame(nullptr, std::move(fresh));
+        frame = new WxKavFrame(nullptr, std::move(fresh), rotator);
         frame->Show();
         Settle();
     }
@@ -74,7 +76,8 @@ protected:
 
     const TemporaryHome home;
     Dialogs dialogs;
-    Configuration* settings = nullptr; ///< owned by the frame
+    std::optional<rotator::Address> rotator; ///< of the antenna; to be set before SetUp()
+    Configuration* settings = nullptr;       ///< owned by the frame
     WxKavFrame* frame = nullptr;
     std::vector<wxString> steps; ///< see RecordSteps()
 

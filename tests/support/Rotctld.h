@@ -130,21 +130,26 @@ public:
 
     explicit FakeRotctld(Answer answer) : m_answer(std::move(answer)), m_thread([this] { Serve(); }) {}
     FakeRotctld() : FakeRotctld([this](const std::string& command) { return Obey(command); }) {}
-    ~FakeRotctld()
-    {
-        m_ends = true;
-        m_thread.join();
-    }
+    ~FakeRotctld() { End(); }
     FakeRotctld(const FakeRotctld&) = delete;
     FakeRotctld& operator=(const FakeRotctld&) = delete;
 
     std::string Address() const { return "127.0.0.1:" + std::to_string(port); }
+
+    /// Ends the connection and talks to nobody any more.
+    void End()
+    {
+        m_ends = true;
+        if (m_thread.joinable())
+            m_thread.join();
+    }
 
     std::string Obey(const std::string& command)
     {
         if (command == "dump_state")
             return "dump_state:\nMinimum Azimuth: " + std::to_string(state.min) +
                    "\nMaximum Azimuth: " + std::to_string(state.max) + "\ndone\nRPRT 0\n";
+        positions += command == "get_pos";
         if (command == "get_pos")
             return "get_pos:\nAzimuth: " + std::to_string(state.azimuth) + "\nElevation: 0.00\nRPRT 0\n";
         lastOrder = command;
@@ -155,6 +160,7 @@ public:
     State state;
     std::string lastOrder; ///< to be read when orders has changed
     std::atomic<int> orders = 0;
+    std::atomic<int> positions = 0; ///< asked for
     std::atomic<int> connections = 0;
     const int port = m_listener.port;
 
