@@ -39,7 +39,8 @@ Draws azimuthal maps of the world as seen from a radio station.
       --long-path        with --aim: the long way round
 
 Exit status: 0 all went well, 1 nothing was written, 2 the picture was written but
-a layer failed.
+a layer failed. --aim: 1 also for a place that is not known, a rotator that refuses
+and one that does not answer.
 )";
 
 constexpr int kVersionOption = 256;

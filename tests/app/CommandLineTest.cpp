@@ -7,6 +7,7 @@
 #include <wx/string.h>
 #include <wx/version.h>
 
+#include <cstdlib>
 #include <vector>
 
 #include <sys/stat.h>
@@ -104,6 +105,62 @@ TEST(CommandLine, KnowsItsOptionsByTheirNames)
     EXPECT_EQ(app::ParseCommandLine(0, nothing).exitStatus, std::nullopt);
 }
 
+/// The environment without a rotator, or with one.
+class RotatorOfTheEnvironment
+{
+public:
+    explicit RotatorOfTheEnvironment(const char* address) { setenv("KAVMAP_ROTATOR", address, 1); }
+    ~RotatorOfTheEnvironment() { unsetenv("KAVMAP_ROTATOR"); }
+    RotatorOfTheEnvironment(const RotatorOfTheEnvironment&) = delete;
+    RotatorOfTheEnvironment& operator=(const RotatorOfTheEnvironment&) = delete;
+};
+
+TEST(CommandLine, TakesARotator)
+{
+    EXPECT_EQ(Parse({"--rotator", "shack"}).rotator, (rotator::Address{"shack", 4533}));
+    EXPECT_EQ(Parse({"--rotator=[::1]:4534"}).rotator, (rotator::Address{"::1", 4534}));
+    EXPECT_FALSE(Parse({}).rotator);
+}
+
+TEST(CommandLine, TakesTheRotatorOfTheEnvironment)
+{
+    const RotatorOfTheEnvironment environment("shack:4534");
+    EXPECT_EQ(Parse({}).rotator, (rotator::Address{"shack", 4534}));
+    EXPECT_EQ(Parse({"--aim", "JA"}).rotator, (rotator::Address{"shack", 4534}));
+    EXPECT_EQ(Parse({"--rotator", "mast"}).rotator, (rotator::Address{"mast", 4533}));
+    EXPECT_FALSE(Parse({"--render", "a.png"}).rotator);
+}
+
+TEST(CommandLine, AnEmptyRotatorOfTheEnvironmentIsNone)
+{
+    const RotatorOfTheEnvironment environment("");
+    const app::CommandLine line = Parse({});
+    EXPECT_FALSE(line.rotator || line.exitStatus);
+}
+
+TEST(CommandLine, TakesAPlaceToAimAt)
+{
+    const app::CommandLine line = Parse({"--aim", "-33.9,151.2", "--long-path"});
+    EXPECT_EQ(line.aim, "-33.9,151.2");
+    EXPECT_TRUE(line.longPath);
+    EXPECT_FALSE(Parse({"--aim", "JA"}).longPath);
+}
+
+TEST(CommandLine, SaysWhatIsWrongAboutAiming)
+{
+    const auto said = [](const std::vector<std::string>& words)
+    {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(Parse(words).exitStatus, 1);
+        return testing::internal::GetCapturedStderr();
+    };
+    EXPECT_EQ(said({"--rotator", "a:b"}), "kavmap: not a rotator's HOST[:PORT]: a:b\n");
+    EXPECT_EQ(said({"--long-path"}), "kavmap: --long-path goes with --aim\n");
+    EXPECT_EQ(said({"--aim", "JA", "--render", "a.png"}), "kavmap: --aim and --render don't go together\n");
+    const RotatorOfTheEnvironment environment(":1");
+    EXPECT_EQ(said({"--aim", "JA"}), "kavmap: KAVMAP_ROTATOR is no HOST[:PORT]: :1\n");
+}
+
 TEST(CommandLine, KeepsNothingOfALineBefore)
 {
     testing::internal::CaptureStderr();
@@ -138,7 +195,14 @@ TEST(CommandLine, EndsWithZeroOnHelpAndVersion)
           "\n  -r, --render PICTURE   create the map, write it to PICTURE and exit; the format\n"
           "                         goes by the ending: .png .jpg .bmp .pcx .pnm .tif\n",
           "\n  -t, --time TIME        draw for this UTC time, written YYYY-MM-DDTHH:MM\n",
-          "\nExit status: 0 all went well, 1 nothing was written, 2 the picture was written but\na layer failed.\n"})
+          "\n      --rotator HOST[:PORT]\n"
+          "                         turn the antenna through the rotctld there (port 4533)\n",
+          "\n      --aim PLACE        print the bearing of PLACE, turn the antenna there if there\n"
+          "                         is a rotator, and exit; a locator, \"lat,lon\", or a prefix,\n"
+          "                         city or country\n",
+          "\n      --long-path        with --aim: the long way round\n",
+          "\nExit status: 0 all went well, 1 nothing was written, 2 the picture was written but\na layer failed. "
+          "--aim: 1 also for a place that is not known, a rotator that refuses\nand one that does not answer.\n"})
         EXPECT_NE(help.find(line), std::string::npos) << line;
     EXPECT_EQ(printed("--version"), "Kavmap 3.1.9\n" + wxString(wxVERSION_STRING).utf8_string() + "\n");
 }
