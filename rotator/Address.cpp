@@ -21,7 +21,7 @@ std::optional<int> ParsePort(std::string_view text)
 
 bool IsHost(std::string_view host)
 {
-    const auto isStray = [](char c) { return c <= ' ' || c == 127 || c == '[' || c == ']' || c == '/'; };
+    const auto isStray = [](unsigned char c) { return c <= ' ' || c >= 127 || c == '[' || c == ']' || c == '/'; };
     return !host.empty() && host.size() <= kLongestName && std::ranges::none_of(host, isStray);
 }
 

@@ -170,7 +170,7 @@ void Rotator::Lose()
     const bool wasOrdered = m_order || m_sent;
     m_order.reset();
     m_sent.reset();
-    if (wasOrdered || !std::exchange(m_isLossTold, true))
+    if (!std::exchange(m_isLossTold, true) || wasOrdered)
         Tell({"Rotator: no answer from " + m_address.Text(), true});
 }
 

@@ -30,9 +30,10 @@ TEST(RotatorAddress, TakesIpV6InBracketsAndWithout)
 
 TEST(RotatorAddress, RefusesAnythingElse)
 {
-    for (const char* text :
-         {"",   ":",   ":4533", "h:", "h:0",  "h:65536",   "h:-1",   "h:+1",    "h:1x", "h: 1",     "a b",
-          " h", "h\n", "[::1",  "[]", "[]:1", "[::1]4533", "[::1]:", "[::1]:x", "::1]", "http://h", "a[b"})
+    for (const char* text : {"",     ":",           ":4533",     "h:",     "h:0",     "h:65536", "h:-1",
+                             "h:+1", "h:1x",        "h: 1",      "a b",    " h",      "h\n",     "[::1",
+                             "[]",   "[]:1",        "[::1]4533", "[::1]:", "[::1]:x", "::1]",    "http://h",
+                             "a[b",  "h\xC3\xB6st", "\xFF",      "a\x7F"})
         EXPECT_FALSE(ParseAddress(text)) << text;
     EXPECT_TRUE(ParseAddress(std::string(253, 'a')));
     EXPECT_FALSE(ParseAddress(std::string(254, 'a')));

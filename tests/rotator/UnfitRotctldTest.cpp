@@ -48,6 +48,10 @@ TEST_F(UnfitRotctld, NobodyThereIsToldAtOnce)
     ASSERT_TRUE(AwaitNews(1));
     EXPECT_THAT(news, ElementsAre("Rotator: no answer from " + address));
     EXPECT_TRUE(hasFailed);
+    // Trying again is quiet.
+    now += Rotator::kRetryPause;
+    StepOften();
+    EXPECT_EQ(news.size(), 1u);
 }
 
 TEST_F(UnfitRotctld, AnUnknownHostIsToldToo)
@@ -95,6 +99,40 @@ TEST_F(UnfitRotctld, HalfALineIsNoAnswer)
     now += Rotator::kLimit;
     ASSERT_TRUE(AwaitNews(1));
     EXPECT_EQ(news[0], NoAnswer());
+}
+
+TEST_F(UnfitRotctld, AnOrderWaitsForSlowAnswersNoLongerThanItsTime)
+{
+    std::atomic<bool> mayAnswer = false;
+    server.emplace(
+        [&](const std::string& command) -> std::string
+        {
+            ++commands;
+            while (!mayAnswer)
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            return command == "dump_state" ? server->Obey(command) : "";
+        });
+    Use(server->Address());
+    antenna->Turn(41.5, now);
+    ASSERT_TRUE(Await([this] { return commands == 1; }));
+    now += Rotator::kLimit - std::chrono::seconds(1);
+    mayAnswer = true;
+    ASSERT_TRUE(Await([this] { return commands == 2; })); // where it points
+    now += std::chrono::seconds(1);
+    ASSERT_TRUE(AwaitNews(1));
+    EXPECT_EQ(news[0], NoAnswer());
+}
+
+TEST_F(UnfitRotctld, ALostRotatorHasNoTarget)
+{
+    server.emplace();
+    Use(server->Address());
+    antenna->Turn(41.5, now);
+    ASSERT_TRUE(AwaitNews(1));
+    ASSERT_TRUE(antenna->Target());
+    server->End();
+    ASSERT_TRUE(Await([this] { return !antenna->Bearing(); }));
+    EXPECT_FALSE(antenna->Target());
 }
 
 TEST_F(UnfitRotctld, GarbageInPlaceOfACodeIsAProtocolError)
