@@ -25,7 +25,7 @@ inline constexpr int kDefaultPort = 4533;
  * Reads HOST or HOST:PORT. An IPv6 address stands in brackets where a port follows, and may do so anywhere.
  *
  * @return none for an empty host, blanks, control characters or others outside ASCII, a host longer than names can be
- * (253 characters), and a port that is none.
+ *         (253 characters), and a port that is none.
  */
 std::optional<Address> ParseAddress(std::string_view text);
 } // namespace rotator
