@@ -4,6 +4,7 @@
 #include "propagation/InputRules.h"
 #include "render/MapRows.h"
 #include "render/PictureFile.h"
+#include "reports/Georeference.h"
 
 #include <wx/log.h>
 
@@ -76,7 +77,7 @@ private:
 };
 } // namespace
 
-int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit)
+int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit, bool withWorldFile)
 {
     delete wxLog::SetActiveTarget(new LogToStandardError);
     WarnOfInput(settings.propagation);
@@ -84,6 +85,8 @@ int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds 
     MapRows picture;
     MapMaker maker(settings, picture, printer);
     const bool written = maker.MakeMap() == MapMaker::Creation::Finished && render::SavePicture(picture, path);
+    if (written && withWorldFile)
+        reports::WriteGeoreference(*maker.View(), path);
     wxLog::FlushActive();
     return !written ? 1 : messageCount > 0 ? 2 : 0;
 }

@@ -17,7 +17,8 @@ namespace app
  *
  * @param[in] path         ends in one of the six endings that name a format.
  * @param[in] voacaplLimit after which voacapl is ended; the picture is then written without its overlay.
+ * @param[in] withWorldFile a world file and the projection are written beside the picture, once that is there.
  * @return exit status: 0 written, 1 nothing written, 2 written although something failed.
  */
-int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit);
+int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit, bool withWorldFile);
 } // namespace app

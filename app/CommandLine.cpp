@@ -9,9 +9,11 @@
 #include <cerrno>
 #include <charconv>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <getopt.h>
 #include <unistd.h>
 
@@ -37,10 +39,16 @@ Draws azimuthal maps of the world as seen from a radio station.
                          is a rotator, and exit; a locator, "lat,lon", or a prefix,
                          city or country
       --long-path        with --aim: the long way round
+      --world-file       with --render: write a world file and a .prj beside it
+      --check            say what in the settings will not work, a line each
+      --bearings FILE    print distance, bearing and light of the places of a label
+                         file or a log as CSV; - answers each line that is typed
 
 Exit status: 0 all went well, 1 nothing was written, 2 the picture was written but
-a layer failed. --aim: 1 also for a place that is not known, a rotator that refuses
-and one that does not answer.
+a layer failed.
+With --aim: 1 also for a place that is not known, a rotator that refuses and one
+that does not answer. With --check: 0 nothing was found, 2 something was. With
+--bearings: 2 some lines name no place.
 )";
 
 constexpr int kVersionOption = 256;
@@ -48,6 +56,9 @@ constexpr int kTimeoutOption = 257;
 constexpr int kRotatorOption = 258;
 constexpr int kAimOption = 259;
 constexpr int kLongPathOption = 260;
+constexpr int kWorldFileOption = 261;
+constexpr int kCheckOption = 262;
+constexpr int kBearingsOption = 263;
 constexpr option kOptions[] = {{"help", no_argument, nullptr, 'h'},
                                {"version", no_argument, nullptr, kVersionOption},
                                {"settings", required_argument, nullptr, 's'},
@@ -57,6 +68,9 @@ constexpr option kOptions[] = {{"help", no_argument, nullptr, 'h'},
                                {"rotator", required_argument, nullptr, kRotatorOption},
                                {"aim", required_argument, nullptr, kAimOption},
                                {"long-path", no_argument, nullptr, kLongPathOption},
+                               {"world-file", no_argument, nullptr, kWorldFileOption},
+                               {"check", no_argument, nullptr, kCheckOption},
+                               {"bearings", required_argument, nullptr, kBearingsOption},
                                {nullptr, 0, nullptr, 0}};
 
 CommandLine Done(int status)
@@ -66,12 +80,21 @@ CommandLine Done(int status)
     return line;
 }
 
+/// No file of settings comes near it; a file without end would fill the memory.
+constexpr std::uintmax_t kMostSettings = std::uintmax_t{16} << 20;
+
 /// Why a settings file can't be read; none if it can. The empty device stands for a file without settings.
 const char* ObstacleTo(const std::string& path)
 {
     if (access(path.c_str(), R_OK) != 0)
         return std::strerror(errno);
-    return path == "/dev/null" ? nullptr : SpecialFileAt(path.c_str());
+    if (path == "/dev/null")
+        return nullptr;
+    if (const char* const obstacle = SpecialFileAt(path.c_str()))
+        return obstacle;
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    return !error && size > kMostSettings ? "it is longer than 16 MB" : nullptr;
 }
 
 /// A whole number of seconds, at least one; none for anything else.
@@ -169,13 +192,24 @@ CommandLine ParseCommandLine(int argc, char** argv)
         case kLongPathOption:
             line.longPath = true;
             break;
+        case kWorldFileOption:
+            line.worldFile = true;
+            break;
+        case kCheckOption:
+            line.check = true;
+            break;
+        case kBearingsOption:
+            line.bearings = optarg;
+            break;
         default:
             return Done(1);
         }
     if (optind < argc)
         return WrongUse(std::string("unexpected argument: ") + argv[optind]);
-    if (line.aim && line.render)
-        return WrongUse("--aim and --render don't go together");
+    if (int{line.render.has_value()} + int{line.aim.has_value()} + int{line.check} + int{line.bearings.has_value()} > 1)
+        return WrongUse("--render, --aim, --check and --bearings exclude each other");
+    if (line.worldFile && !line.render)
+        return WrongUse("--world-file goes with --render");
     if (line.longPath && !line.aim)
         return WrongUse("--long-path goes with --aim");
     if (const std::string wrong = TakeRotatorOfEnvironment(line); !wrong.empty())

@@ -4,6 +4,8 @@
 #include "app/BatchRender.h"
 #include "app/FileNames.h"
 #include "app/StartSettings.h"
+#include "reports/PrintBearings.h"
+#include "reports/PrintCheck.h"
 
 #include <wx/font.h>
 #include <wx/gdicmn.h>
@@ -41,9 +43,16 @@ bool ConsoleApp::OnInit()
 
 int ConsoleApp::OnRun()
 {
-    const auto settings = StartSettings(m_commandLine);
-    if (m_commandLine.aim)
-        return Aim(*settings, m_commandLine);
-    return RenderToFile(*settings, FileName(*m_commandLine.render), m_commandLine.voacaplTimeout);
+    const CommandLine& line = m_commandLine;
+    if (line.check)
+        return reports::PrintCheck(line.settings ? std::optional(FileName(*line.settings)) : std::nullopt, stdout);
+    const auto settings = StartSettings(line);
+    if (line.aim)
+        return Aim(*settings, line);
+    if (line.AnswersInput())
+        return reports::AnswerBearings(*settings, line.time, stdin, stdout);
+    if (line.bearings)
+        return reports::PrintBearings(*settings, FileName(*line.bearings), line.time, stdout);
+    return RenderToFile(*settings, FileName(*line.render), line.voacaplTimeout, line.worldFile);
 }
 } // namespace app

@@ -40,8 +40,9 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "kavmap: Couldn't save %s\n", line.render->c_str());
         return 1;
     }
-    EmptyStandardInput();
-    wxAppConsole::SetInitializerFunction(line.render || line.aim ? NewApp<app::ConsoleApp> : NewApp<WxKavApp>);
+    if (!line.AnswersInput())
+        EmptyStandardInput();
+    wxAppConsole::SetInitializerFunction(line.ShowsWindow() ? NewApp<WxKavApp> : NewApp<app::ConsoleApp>);
     int toolkitArgc = 1;
     const int status = wxEntry(toolkitArgc, argv);
     return status < 0 ? 1 : status;

@@ -1,6 +1,7 @@
 #include "config/Configuration.h"
 
 #include "config/QuietToolkit.h"
+#include "config/ReadSetting.h"
 #include "config/SettingKeys.h"
 #include "config/SpecialFile.h"
 #include "geo/Locator.h"
@@ -10,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 
 namespace
 {
@@ -24,36 +24,6 @@ const char* ObstacleAt(const wxString& appName)
 int FilesOf(const wxString& appName)
 {
     return wxCONFIG_USE_GLOBAL_FILE | (ObstacleAt(appName) ? 0 : int{wxCONFIG_USE_LOCAL_FILE});
-}
-
-/// Texts come back as they were written: "$HOME" is not replaced while this lives.
-class VerbatimTexts
-{
-public:
-    explicit VerbatimTexts(wxConfigBase& file) : m_file(file), m_before(file.IsExpandingEnvVars())
-    {
-        m_file.SetExpandEnvVars(false);
-    }
-    ~VerbatimTexts() { m_file.SetExpandEnvVars(m_before); }
-    VerbatimTexts(const VerbatimTexts&) = delete;
-    VerbatimTexts& operator=(const VerbatimTexts&) = delete;
-
-private:
-    wxConfigBase& m_file;
-    bool m_before;
-};
-
-/// Reads one key; false when the member took the default. Numbers that are infinite or not numbers are unreadable.
-template <class Value>
-bool ReadSetting(wxConfigBase& file, const wxString& key, Value& member, const Value& fallback)
-{
-    bool good = file.Read(key, &member, fallback);
-    if constexpr (std::is_same_v<Value, double>)
-    {
-        good = good && std::isfinite(member);
-        member = good ? member : fallback;
-    }
-    return good;
 }
 
 /// The fewest digits that read back as the same number; the toolkit would write six.
@@ -92,11 +62,11 @@ Configuration::Configuration(const wxString& appName, wxConfigBase& source)
 void Configuration::ReadAll()
 {
     const QuietToolkit quiet;
-    const VerbatimTexts verbatim(*this);
+    const config::VerbatimTexts verbatim(*this);
     ForEachSetting(
         [this]<class Value>(const wxString& key, Value& member, const auto& fallback)
         {
-            if (!ReadSetting(*this, key, member, Value(fallback)))
+            if (!config::ReadSetting(*this, key, member, Value(fallback)))
                 WriteSetting(*this, key, member);
         });
 }
@@ -104,9 +74,9 @@ void Configuration::ReadAll()
 void Configuration::ReadAllFrom(wxConfigBase& source)
 {
     const QuietToolkit quiet;
-    const VerbatimTexts verbatim(source);
+    const config::VerbatimTexts verbatim(source);
     ForEachSetting([&source]<class Value>(const wxString& key, Value& member, const auto& fallback)
-                   { ReadSetting(source, key, member, Value(fallback)); });
+                   { config::ReadSetting(source, key, member, Value(fallback)); });
 }
 
 void Configuration::WriteAll()

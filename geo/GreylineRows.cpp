@@ -32,20 +32,32 @@ double GreylineShade::Slope() const
     return std::fabs((greyPercent - nightPercent) * kLevelsPerPercent / widthDeg);
 }
 
-std::uint8_t GreylineShade::At(LatLonRad place) const
+double GreylineShade::SunDistanceDeg(LatLonRad place) const
 {
     const double cosDistance = std::cos(sun.lon - place.lon) * std::cos(sun.lat) * std::cos(place.lat) +
                                std::sin(sun.lat) * std::sin(place.lat);
-    const double distance = std::acos(std::clamp(cosDistance, -1.0, 1.0)) * kDegPerRad;
+    return std::acos(std::clamp(cosDistance, -1.0, 1.0)) * kDegPerRad;
+}
+
+Daylight GreylineShade::DaylightAt(double sunDistanceDeg) const
+{
     const double half = 0.5 * widthDeg;
-    if (distance < 90.0 - half)
+    if (sunDistanceDeg < 90.0 - half)
+        return Daylight::Day;
+    return sunDistanceDeg <= 90.0 + half ? Daylight::Grey : Daylight::Night;
+}
+
+std::uint8_t GreylineShade::At(LatLonRad place) const
+{
+    const double distance = SunDistanceDeg(place);
+    const Daylight daylight = DaylightAt(distance);
+    if (daylight == Daylight::Day)
         return kDay;
-    const bool night = !(distance <= 90.0 + half);
-    if (night)
+    if (daylight == Daylight::Night)
         return LevelOf(nightPercent * kLevelsPerPercent);
     if (!gradient)
         return LevelOf(greyPercent * kLevelsPerPercent);
-    return LevelOf(Slope() * (widthDeg - (distance - (90.0 - half))) + nightPercent * kLevelsPerPercent);
+    return LevelOf(Slope() * (widthDeg - (distance - (90.0 - 0.5 * widthDeg))) + nightPercent * kLevelsPerPercent);
 }
 
 GreyBands GreylineShade::Bands() const

@@ -9,6 +9,14 @@
 
 namespace geo
 {
+/// What the sun leaves of the day at a place.
+enum class Daylight
+{
+    Day,
+    Grey, ///< the greyzone, both edges included
+    Night
+};
+
 /// How dark the earth is under a position of the sun.
 struct GreylineShade
 {
@@ -20,6 +28,12 @@ struct GreylineShade
     bool gradient;       ///< whether the level of the greyzone falls from the grey to the night value
     double greyPercent;  ///< 100 is no darkening, 0 is black
     double nightPercent; ///< the same for the night
+
+    /// Degrees of a great circle between a place and the sub-solar point, 0..180.
+    double SunDistanceDeg(LatLonRad place) const;
+
+    /// The band in which a place so far from the sub-solar point lies.
+    Daylight DaylightAt(double sunDistanceDeg) const;
 
     /// The grey level of a place, 0..255; levels outside that range count modulo 256.
     std::uint8_t At(LatLonRad place) const;

@@ -38,6 +38,9 @@ public:
     /// Whether there is a map to draw on.
     bool HasMap() const { return m_view && m_picture.HasMap(); }
 
+    /// How the map in the picture shows the world; none before the first.
+    const std::optional<MapView>& View() const { return m_view; }
+
     // The layers of a map. Without a map those that say so tell an error, the others do nothing.
     void DrawGridLines(long alpha, const wxColour& colour, int lineWidth, int lonFrom, int lonTo, int lonStep,
                        int latFrom, int latTo, int latStep);
@@ -66,8 +69,6 @@ public:
     void DrawPropagation(bool selectionChanged);
 
 protected:
-    const std::optional<MapView>& View() const { return m_view; }
-
     /// Forces the next greyline to be drawn whatever degree was remembered; drawing clears it.
     bool greylineDrawn = false;
 

@@ -66,6 +66,17 @@ TEST(CommandLine, TakesShortAndLongOptions)
     }
 }
 
+TEST(CommandLine, ShowsTheWindowUnlessAnythingElseIsAskedFor)
+{
+    EXPECT_TRUE(Parse({}).ShowsWindow());
+    EXPECT_FALSE(Parse({"-r", "a.png"}).ShowsWindow());
+    EXPECT_FALSE(Parse({"--check"}).ShowsWindow());
+    EXPECT_FALSE(Parse({"--bearings", "a.dat"}).ShowsWindow());
+    EXPECT_FALSE(Parse({"--bearings", "a.dat"}).AnswersInput());
+    EXPECT_TRUE(Parse({"--bearings", "-"}).AnswersInput());
+    EXPECT_TRUE(Parse({"-r", "a.png", "--world-file"}).worldFile);
+}
+
 TEST(CommandLine, EndsWithOneOnWrongUse)
 {
     const std::vector<std::vector<std::string>> wrong{

@@ -82,6 +82,22 @@ TEST(GreylineShade, PutsHalfOfTheGreyzoneOnEitherSideOfTheTerminator)
     EXPECT_EQ(LevelAt(Default(), 93.1), 76);
 }
 
+TEST(GreylineShade, TellsTheBandsApart)
+{
+    geo::GreylineShade shade = Default();
+    for (const auto& [distance, daylight] : {std::pair{0.0, geo::Daylight::Day},
+                                             {86.9, geo::Daylight::Day},
+                                             {87.0, geo::Daylight::Grey},
+                                             {93.0, geo::Daylight::Grey},
+                                             {93.1, geo::Daylight::Night},
+                                             {180.0, geo::Daylight::Night}})
+        EXPECT_EQ(shade.DaylightAt(distance), daylight) << distance;
+    shade.widthDeg = 20;
+    EXPECT_EQ(shade.DaylightAt(81), geo::Daylight::Grey);
+    EXPECT_NEAR(shade.SunDistanceDeg(Degrees(0, -35)), 35, 1e-9);
+    EXPECT_NEAR(shade.SunDistanceDeg(Degrees(90, 12)), 90, 1e-9);
+}
+
 TEST(GreylineShade, FallsFromTheGreyValueToTheNightValue)
 {
     EXPECT_NEAR(LevelAt(Default(), 87.0001), 152, 1);
