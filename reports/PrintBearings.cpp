@@ -40,10 +40,10 @@ bool Put(const std::string& text, std::FILE* out)
 std::optional<std::string> NextLine(std::FILE* in)
 {
     std::string line;
-    int c = std::getc(in);
+    int c = getc_unlocked(in);
     if (c == EOF)
         return std::nullopt;
-    for (; c != EOF && c != '\n'; c = std::getc(in))
+    for (; c != EOF && c != '\n'; c = getc_unlocked(in))
         if (line.size() <= kLongestLine)
             line += static_cast<char>(c);
     if (line.ends_with('\r'))
