@@ -11,12 +11,17 @@ function(run)
 endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix}/usr)
-foreach(file bin/kavmap share/kavmap/mapper.pnt share/man/man1/kavmap.1 bin/kavmap-adif share/man/man1/kavmap-adif.1
+foreach(file bin/kavmap share/kavmap/mapper.pnt share/man/man1/kavmap.1 bin/kavmap-adif share/man/man1/kavmap-adif.1 bin/kavmap-series
              share/bash-completion/completions/kavmap share/zsh/site-functions/_kavmap share/applications/kavmap.desktop
              share/pixmaps/kavmap.xpm)
   if(NOT EXISTS ${prefix}/usr/${file})
     message(FATAL_ERROR "${file} was not installed")
   endif()
+endforeach()
+
+# They find what they share.
+foreach(command kavmap-adif kavmap-series)
+  run(${prefix}/usr/bin/${command} --version)
 endforeach()
 
 file(MAKE_DIRECTORY ${prefix}/home)
