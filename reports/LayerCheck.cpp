@@ -31,6 +31,9 @@ public:
     /// Whether what a key describes is drawn: its layer and, for the look of texts, these.
     bool IsShown(const wxString& key) const
     {
+        // The distances on the range circles are written in it, too.
+        if (key == "Compass/Font" && IsOn("RangeCircles/RcShow") && IsOn("RangeCircles/RcLegendShow"))
+            return true;
         const wxString group = key.BeforeFirst('/');
         const wxString name = key.AfterFirst('/');
         const wxString number = wxIsdigit(key.Last()) ? wxString(key.Last()) : wxString();

@@ -78,6 +78,10 @@ TEST_F(LayerCheckTest, FindsFontsThatAreNotThere)
     EXPECT_THAT(Keys(), ElementsAre("Compass/Font"));
     settings.compass.text.show = false;
     EXPECT_THAT(Keys(), IsEmpty());
+    settings.rangeCircles.show = true;
+    EXPECT_THAT(Keys(), ElementsAre("Compass/Font"));
+    settings.rangeCircles.legendShow = false;
+    EXPECT_THAT(Keys(), IsEmpty());
 }
 
 TEST(FontTrouble, NamesTheFontAndWhatStandsIn)
