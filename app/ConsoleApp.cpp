@@ -10,6 +10,7 @@
 #include <wx/font.h>
 #include <wx/gdicmn.h>
 #include <wx/image.h>
+#include <wx/log.h>
 
 #include <clocale>
 
@@ -26,6 +27,18 @@ public:
 
 namespace app
 {
+namespace
+{
+int PrintBearings(const CommandLine& line)
+{
+    // Whoever only asks does not care whether the working settings can be kept.
+    const wxLogNull silent;
+    const auto settings = StartSettings(line);
+    return line.AnswersInput() ? reports::AnswerBearings(*settings, line.time, stdin, stdout)
+                               : reports::PrintBearings(*settings, FileName(*line.bearings), line.time, stdout);
+}
+} // namespace
+
 ConsoleApp::ConsoleApp(const CommandLine& commandLine) : m_commandLine(commandLine)
 {
     wxDISABLE_ASSERTS_IN_RELEASE_BUILD();
@@ -46,13 +59,10 @@ int ConsoleApp::OnRun()
     const CommandLine& line = m_commandLine;
     if (line.check)
         return reports::PrintCheck(line.settings ? std::optional(FileName(*line.settings)) : std::nullopt, stdout);
-    const auto settings = StartSettings(line);
     if (line.aim)
-        return Aim(*settings, line);
-    if (line.AnswersInput())
-        return reports::AnswerBearings(*settings, line.time, stdin, stdout);
+        return Aim(*StartSettings(line), line);
     if (line.bearings)
-        return reports::PrintBearings(*settings, FileName(*line.bearings), line.time, stdout);
-    return RenderToFile(*settings, FileName(*line.render), line.voacaplTimeout, line.worldFile);
+        return PrintBearings(line);
+    return RenderToFile(*StartSettings(line), FileName(*line.render), line.voacaplTimeout, line.worldFile);
 }
 } // namespace app

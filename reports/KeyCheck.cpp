@@ -103,11 +103,15 @@ void ForEachKey(wxConfigBase& file, const wxString& group, Visit visit)
         ForEachKey(file, inner, visit);
 }
 
-bool SaysSomething(std::string_view line)
+/// Whether a line is what a settings file is made of: a group, a key with a value, a comment, nothing.
+bool IsUnderstood(std::string_view line)
 {
     const std::size_t first = line.find_first_not_of(" \t\r");
-    return first != std::string_view::npos && std::string_view("#;[").find(line[first]) == std::string_view::npos &&
-           line.find('=') == std::string_view::npos;
+    if (first == std::string_view::npos || line[first] == '#' || line[first] == ';')
+        return true;
+    const char mark = line[first] == '[' ? ']' : '=';
+    const std::size_t marked = line.find(mark);
+    return marked != std::string_view::npos && marked > first;
 }
 } // namespace
 
@@ -135,7 +139,8 @@ Findings CheckKeys(wxConfigBase& file)
     ForEachKey(file, "",
                [&](const wxString& key)
                {
-                   if (isKnown(key))
+                   // A key without a name has been told by its line.
+                   if (isKnown(key) || key.AfterLast('/').empty())
                        return;
                    const wxString nearest = Nearest(key, known);
                    findings.push_back(
@@ -150,7 +155,7 @@ Findings CheckLines(std::string_view bytes)
     for (std::size_t number = 1; !bytes.empty(); ++number)
     {
         const std::size_t length = std::min(bytes.find('\n'), bytes.size());
-        if (SaysSomething(bytes.substr(0, length)))
+        if (!IsUnderstood(bytes.substr(0, length)))
             findings.push_back({wxString::Format("line %zu", number), "neither a group nor a key, it is ignored"});
         bytes.remove_prefix(std::min(length + 1, bytes.size()));
     }

@@ -84,6 +84,13 @@ TEST_F(BearingsProgramTest, RefusesWhatNamesNoPlace)
     }
 }
 
+TEST_F(BearingsProgramTest, NeedsNoHome)
+{
+    home.Write("a.dat", "x;P;x;x;0;90;x\n");
+    EXPECT_EQ(Run("--bearings a.dat", "HOME=/nonexistent"), 0);
+    EXPECT_EQ(home.Read("err.txt"), "");
+}
+
 TEST_F(BearingsProgramTest, SaysThatNobodyCanReadThem)
 {
     home.Write("a.dat", "x;P;x;x;0;90;x\n");

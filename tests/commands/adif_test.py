@@ -40,7 +40,7 @@ class AdifTest(command.CommandTest):
         self.assertEqual(self.squares(log), ["FN42"])
 
     def test_header_may_say_anything(self):
-        header = "JO65 <b> <GRIDSQUARE:4>KP20 <adif_ver:5>3.1.4 <eoh>"
+        header = "JO65 <b> <VUCC_GRIDS:4>KP20 <adif_ver:99>3.1.4 <eoh>"
         self.assertEqual(self.squares(header + record(GRIDSQUARE="FN42")), ["FN42"])
 
     def test_chooses_by_band(self):

@@ -101,8 +101,10 @@ TEST_F(KeyCheckTest, NamesTheKeyNearestToAnUnknownOne)
 
 TEST(CheckLines, NamesLinesThatSayNothing)
 {
-    EXPECT_THAT(LinesOf(reports::CheckLines("# a\n; b\n\n[Group]\n  \r\nkey=value\nkey value\nkey = \nlast")),
-                ElementsAre("line 7: neither a group nor a key, it is ignored",
-                            "line 9: neither a group nor a key, it is ignored"));
+    EXPECT_THAT(
+        LinesOf(reports::CheckLines("# a\n; b\n\n[Group]\n  \r\nkey=value\nkey value\nkey = \nlast\n  =x\n[open\n")),
+        ElementsAre(
+            "line 7: neither a group nor a key, it is ignored", "line 9: neither a group nor a key, it is ignored",
+            "line 10: neither a group nor a key, it is ignored", "line 11: neither a group nor a key, it is ignored"));
 }
 } // namespace
