@@ -114,7 +114,7 @@ void CheckThresholds(PropagationSettings settings, Findings& findings)
             findings.push_back({key, "'" + text + "' is no number"});
     };
     for (std::size_t i = 0; i < settings.scales.size(); ++i)
-        config::VisitScaleValues(config::kScaleKeys[i], settings.scales[i], check);
+        config::VisitScaleValues(config::kParameters[i].steps, settings.scales[i], check);
 }
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "render/Blend.h"
 #include "ui/Ids.h"
+#include "ui/MapSpot.h"
 #include "ui/Native.h"
 
 #include <wx/evtloop.h>
@@ -62,7 +63,7 @@ void WxKavFrame::TakeCentreFromLocatorField()
     stored = m_locator->GetValue().Upper();
     Configuration::LocatorToLatLon(m_settings->centreLat, m_settings->centreLon, stored);
     if (stored.length() != 6)
-        stored = kScratchLocator;
+        stored = ui::kScratchLocator;
     Configuration::LatLonToLocator(stored, m_settings->centreLat, m_settings->centreLon);
     m_locator->ChangeValue(stored);
 }

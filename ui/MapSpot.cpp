@@ -12,7 +12,7 @@ MapPlace PlaceAt(const AzimuthalProjection& projection, geo::MapPoint point)
     double lon{};
     double lat{};
     projection.Inverse(lon, lat, point.x, point.y);
-    MapPlace place{lat * geo::kDegPerRad, lon * geo::kDegPerRad, "AA11RR"};
+    MapPlace place{lat * geo::kDegPerRad, lon * geo::kDegPerRad, kScratchLocator};
     Configuration::LatLonToLocator(place.locator, place.lat, place.lon);
     return place;
 }

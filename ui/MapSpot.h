@@ -10,6 +10,9 @@
 
 namespace ui
 {
+/// A locator of the right length to write another into.
+inline constexpr const char* kScratchLocator = "AA11RR";
+
 /// A place on the earth.
 struct MapPlace
 {

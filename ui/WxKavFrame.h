@@ -58,9 +58,6 @@ public:
     void SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex);
 
 protected:
-    /// A locator of the right length to write another into.
-    static constexpr const char* kScratchLocator = "AA11RR";
-
     void OnClose(wxCloseEvent& event) override;
     void OnQuit(wxCommandEvent& event) override;
     void OnProperties(wxCommandEvent& event) override;
