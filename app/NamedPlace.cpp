@@ -45,16 +45,16 @@ bool AreClose(LatLon one, LatLon other)
 
 void AddLabels(std::vector<LatLon>& places, const wxString& name, std::wstring_view labels)
 {
-    render::ForEachLine(labels,
-                        [&](std::wstring_view line)
-                        {
-                            const auto label = render::ParseTextLabel(line);
-                            if (!label || !label->text.IsSameAs(name, false))
-                                return;
-                            const LatLon place{label->lat, label->lon};
-                            if (std::ranges::none_of(places, [&](LatLon known) { return AreClose(known, place); }))
-                                places.push_back(place);
-                        });
+    render::ForEachLine(
+        labels,
+        [&](std::wstring_view line)
+        {
+            const auto label = render::ParseTextLabel(line);
+            if (!label || !label->text.IsSameAs(name, false))
+                return;
+            if (std::ranges::none_of(places, [&](LatLon known) { return AreClose(known, label->place); }))
+                places.push_back(label->place);
+        });
 }
 } // namespace
 
