@@ -2,6 +2,7 @@
 
 import argparse
 import os
+import re
 import sys
 import tempfile
 
@@ -43,6 +44,34 @@ class Options(argparse.ArgumentParser):
 
     def error(self, message):
         raise Refusal(message)
+
+
+def numbers(least, most):
+    """Reads lists like 0-5,12."""
+
+    def read(text):
+        found = []
+        for part in text.split(","):
+            match = re.fullmatch(r"(\d{1,2})(?:-(\d{1,2}))?", part.strip())
+            first, last = (int(match[1]), int(match[2] or match[1])) if match else (least - 1, 0)
+            if not least <= first <= last <= most:
+                raise Refusal(f"not numbers from {least} to {most} like {least}-{least + 2},{most}: {text}")
+            found += range(first, last + 1)
+        return list(dict.fromkeys(found))
+
+    return read
+
+
+def choices(known):
+    """Reads lists of some of the names."""
+
+    def read(text):
+        found = [re.sub(r"\.0$", "", part.strip().lower()) for part in text.split(",")]
+        if wrong := [name for name in found if name not in known]:
+            raise Refusal(f"not one of {', '.join(known)}: {wrong[0]}")
+        return list(dict.fromkeys(found))
+
+    return read
 
 
 def reason(error):

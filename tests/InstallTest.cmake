@@ -12,6 +12,7 @@ endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix}/usr)
 foreach(file bin/kavmap share/kavmap/mapper.pnt share/man/man1/kavmap.1 bin/kavmap-adif share/man/man1/kavmap-adif.1 bin/kavmap-series
+             share/kavmap/kavmap-series-job
              share/bash-completion/completions/kavmap share/zsh/site-functions/_kavmap share/applications/kavmap.desktop
              share/pixmaps/kavmap.xpm)
   if(NOT EXISTS ${prefix}/usr/${file})

@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import random
 import shutil
 import signal
 import subprocess
@@ -146,6 +147,19 @@ class SeriesTest(command.CommandTest):
         shutil.rmtree(self.home / "out")
         self.series(*arguments[:3], "--sshlogin=:", f"--kavmap={kavmap}")
         self.assertEqual({name: (self.home / "out" / name).read_bytes() for name in self.pictures()}, here)
+
+    def test_settings_may_be_as_long_as_they_can_travel(self):
+        far = self.script("far", FAR)
+        chance = random.Random(3)
+        text = (self.home / "s.ini").read_text()
+        text += "".join(f"# {chance.getrandbits(200):x} '\"$HOME` {{1}}\n" for _ in range(750))
+        for length, status in ((20000, 0), (len(text), 1)):
+            self.write("s.ini", text[:length])
+            shutil.rmtree(self.home / "out", ignore_errors=True)
+            self.series("--hours=0", "--bands=14", "--jobs=1", f"--ssh={far}", "--sshlogin=one",
+                        f"--kavmap={command.BIN / 'kavmap'}", status=status, FAR_LOG="/dev/null")
+            self.assertEqual(len(self.pictures()), 1 - status)
+        self.assertIn("the settings are too long to travel", self.said)
 
     def test_makes_a_contact_sheet(self):
         self.write("s.ini", "Size=100\n")
