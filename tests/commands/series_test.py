@@ -160,6 +160,7 @@ class SeriesTest(command.CommandTest):
                         f"--kavmap={command.BIN / 'kavmap'}", status=status, FAR_LOG="/dev/null")
             self.assertEqual(len(self.pictures()), 1 - status)
         self.assertIn("the settings are too long to travel", self.said)
+        self.assertFalse((self.home / "out").exists())
 
     def test_makes_a_contact_sheet(self):
         self.write("s.ini", "Size=100\n")
