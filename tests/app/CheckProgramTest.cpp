@@ -100,7 +100,7 @@ TEST_F(CheckProgramTest, GoesAlone)
     for (const char* const other : {"-r a.png", "--bearings -", "-r a.png --bearings -"})
     {
         EXPECT_EQ(Check(other), 1) << other;
-        EXPECT_EQ(Err(), "kavmap: --render, --check and --bearings exclude each other\n") << other;
+        EXPECT_EQ(Err(), "kavmap: --render, --aim, --check and --bearings exclude each other\n") << other;
     }
 }
 } // namespace

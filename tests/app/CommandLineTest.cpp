@@ -167,7 +167,8 @@ TEST(CommandLine, SaysWhatIsWrongAboutAiming)
     };
     EXPECT_EQ(said({"--rotator", "a:b"}), "kavmap: not a rotator's HOST[:PORT]: a:b\n");
     EXPECT_EQ(said({"--long-path"}), "kavmap: --long-path goes with --aim\n");
-    EXPECT_EQ(said({"--aim", "JA", "--render", "a.png"}), "kavmap: --aim and --render don't go together\n");
+    EXPECT_EQ(said({"--aim", "JA", "--render", "a.png"}),
+              "kavmap: --render, --aim, --check and --bearings exclude each other\n");
     const RotatorOfTheEnvironment environment(":1");
     EXPECT_EQ(said({"--aim", "JA"}), "kavmap: KAVMAP_ROTATOR is no HOST[:PORT]: :1\n");
 }
@@ -212,8 +213,9 @@ TEST(CommandLine, EndsWithZeroOnHelpAndVersion)
           "                         is a rotator, and exit; a locator, \"lat,lon\", or a prefix,\n"
           "                         city or country\n",
           "\n      --long-path        with --aim: the long way round\n",
-          "\nExit status: 0 all went well, 1 nothing was written, 2 the picture was written but\na layer failed. "
-          "--aim: 1 also for a place that is not known, a rotator that refuses\nand one that does not answer.\n"})
+          "\nExit status: 0 all went well, 1 nothing was written, 2 the picture was written but\na layer failed.\n"
+          "With --aim: 1 also for a place that is not known, a rotator that refuses and one\nthat does not answer. "
+          "With --check: 0 nothing was found, 2 something was. With\n--bearings: 2 some lines name no place.\n"})
         EXPECT_NE(help.find(line), std::string::npos) << line;
     EXPECT_EQ(printed("--version"), "Kavmap 3.1.9\n" + wxString(wxVERSION_STRING).utf8_string() + "\n");
 }

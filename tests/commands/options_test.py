@@ -44,8 +44,8 @@ class OptionsTest(command.CommandTest):
         for name in COMMANDS:
             in_manual = {}
             for line in self.manual(name):
-                argument = re.search(r"\\fI(.*)\\fR", line)
-                in_manual[re.search(r"--[-a-z]+", line)[0]] = argument[1] if argument else ""
+                argument = re.search(r"\\fI(.*)", line)
+                in_manual[re.search(r"--[-a-z]+", line)[0]] = re.sub(r"\\f.|\"$", "", argument[1]) if argument else ""
             self.assertEqual(in_manual, self.takes(name), name)
 
     def test_bash_completes_every_option(self):

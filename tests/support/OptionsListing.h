@@ -19,6 +19,22 @@ inline void CollectControls(const wxWindow* parent, std::vector<wxWindow*>& cont
     }
 }
 
+/// Seen from the dialog's outermost group, which the window manager may move meanwhile: then again. (The dialog
+/// itself learns late where it is, and a group that is asked itself leaves its title out.)
+inline wxRect RectOf(const wxWindow* window)
+{
+    const wxWindow* const top = wxGetTopLevelParent(const_cast<wxWindow*>(window));
+    const wxWindow* const outermost = top->GetChildren().GetFirst()->GetData();
+    wxPoint origin;
+    wxPoint at;
+    do
+    {
+        origin = outermost->ClientToScreen(wxPoint());
+        at = window->GetParent()->ClientToScreen(window->GetPosition());
+    } while (outermost->ClientToScreen(wxPoint()) != origin);
+    return {at - origin, window->GetSize()};
+}
+
 inline std::vector<wxWindow*> ControlsOf(const wxWindow* page)
 {
     std::vector<wxWindow*> controls;

@@ -244,8 +244,8 @@ TEST_F(OptionsControls, FollowEachOtherToTheRightOrDownwards)
                 continue;
             if (before)
             {
-                const wxRect a = before->GetScreenRect();
-                const wxRect b = control->GetScreenRect();
+                const wxRect a = RectOf(before);
+                const wxRect b = RectOf(control);
                 EXPECT_TRUE(b.x > a.GetRight() || b.y > a.GetBottom())
                     << Description(const_cast<wxWindow*>(before)) << ", "
                     << Description(const_cast<wxWindow*>(control));

@@ -39,22 +39,6 @@ protected:
         return book->GetPage(page);
     }
 
-    /// Seen from the dialog's outermost group, which the window manager may move meanwhile: then again. (The dialog
-    /// itself learns late where it is, and a group that is asked itself leaves its title out.)
-    static wxRect RectOf(const wxWindow* window)
-    {
-        const wxWindow* const top = wxGetTopLevelParent(const_cast<wxWindow*>(window));
-        const wxWindow* const outermost = top->GetChildren().GetFirst()->GetData();
-        wxPoint origin;
-        wxPoint at;
-        do
-        {
-            origin = outermost->ClientToScreen(wxPoint());
-            at = window->GetParent()->ClientToScreen(window->GetPosition());
-        } while (outermost->ClientToScreen(wxPoint()) != origin);
-        return {at - origin, window->GetSize()};
-    }
-
     /// The number-th text or group of a page that begins so.
     static wxWindow* Text(const wxWindow* page, const wxString& text, int number = 0)
     {
