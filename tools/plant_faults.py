@@ -20,8 +20,8 @@ import sys
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ROOMS = ["geo", "config", "render", "propagation", "maker", "rotator", "ui", "app"]
-COPIED = [*ROOMS, "cmake", "data", "docs", "resources", "scripts", "tests", "tools", "CMakeLists.txt", "LICENSE"]
+ROOMS = ["geo", "config", "render", "propagation", "reports", "maker", "rotator", "ui", "app"]
+COPIED = [*ROOMS, "cmake", "commands", "data", "docs", "resources", "scripts", "tests", "tools", "CMakeLists.txt", "LICENSE"]
 
 # Source text with comments and texts blanked out, so that no fault is planted in them.
 HIDDEN = re.compile(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|'(?:\\.|[^'\\\n])+'|^[ \t]*#(?:\\\n|[^\n])*|"
