@@ -26,18 +26,6 @@ TEST_F(NoDisplayTest, DrawsInEveryFormat)
     }
 }
 
-TEST_F(NoDisplayTest, DrawsEverySample)
-{
-    wxArrayString samples;
-    wxDir::GetAllFiles(KAV_DATA_DIR "/samples", &samples, "*.ini");
-    EXPECT_FALSE(samples.empty());
-    for (const wxString& sample : samples)
-    {
-        EXPECT_EQ(RunWithout("-s " + sample.utf8_string() + " -r map.png"), 0) << sample;
-        EXPECT_EQ(home.Read("err.txt"), "") << sample;
-    }
-}
-
 TEST_F(NoDisplayTest, SaysWhatFails)
 {
     home.Write("lacking.ini", "Size=100\n[Borders]\nShow2=1\nFile2=gone.pnt\n[Text]\nShow1=1\nFile1=gone.dat\n");

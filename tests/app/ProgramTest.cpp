@@ -249,19 +249,6 @@ TEST_F(ProgramTest, GivesVoacaplNothingToReadWhateverItReadsItself)
     }
 }
 
-TEST_F(ProgramTest, DrawsEverySampleOfSettings)
-{
-    wxArrayString samples;
-    wxDir::GetAllFiles(KAV_DATA_DIR "/samples", &samples, "*.ini");
-    EXPECT_GE(samples.size(), 4u);
-    for (const wxString& sample : samples)
-    {
-        EXPECT_EQ(Run("-s '" + sample.utf8_string() + "' -r a.png"), 0) << sample;
-        EXPECT_EQ(Err(), "") << sample;
-        EXPECT_GT(Picture("a.png").CountColours(2000), 2000u) << sample;
-    }
-}
-
 TEST_F(ProgramTest, DrawsTheSmallestMap)
 {
     home.Write("tiny.ini", "Size=100\nZoom=100\n[Compass]\nFont=Sans 99\n");
