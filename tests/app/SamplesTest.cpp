@@ -21,8 +21,8 @@ protected:
         wxFile file(PathOf(sample));
         wxString settings;
         EXPECT_TRUE(file.ReadAll(&settings)) << sample;
-        home.Write("sample.ini", settings.utf8_string() + otherwise + "\n[Propagation]\nGrid=0\nDir=" +
-                                     home.Path("voacap").utf8_string() + "\n");
+        home.Write("sample.ini", settings.utf8_string() + otherwise +
+                                     "\n[Propagation]\nGrid=0\nDir=" + home.Path("voacap").utf8_string() + "\n");
         EXPECT_EQ(Run("-t 2026-06-21T18:00 -s sample.ini -r map.pnm",
                       "-u DISPLAY -u WAYLAND_DISPLAY PATH=" KAV_STAND_IN ":" + std::string(std::getenv("PATH"))),
                   0)
