@@ -24,7 +24,9 @@
 #include "ui/Ids.h"
 #include "ui/Native.h"
 #include "ui/SharedStatusBar.h"
+#include "ui/ToolPictures.h"
 
+#include <ToolDrawings.h>
 #include <wx/menu.h>
 #include <wx/sizer.h>
 
@@ -38,23 +40,35 @@ struct Tool
     int id;
     const char* label;
     wxItemKind kind;
-    const char* const* icon;
+    ui::ToolPicture icon;
     const char* name; ///< for screen readers, and in the menu of tools that have no room
 };
 
 constexpr Tool kCommandTools[] = {
-    {ui::kIdCreate, "Create", wxITEM_NORMAL, icon_create, "Create"},
-    {ui::kIdSave, "Save", wxITEM_NORMAL, icon_save, "Save"},
-    {ui::kIdOptions, "Options", wxITEM_NORMAL, icon_options, "Options"},
-    {ui::kIdHelp, "Help", wxITEM_NORMAL, icon_help, "Help"},
+    {ui::kIdCreate, "Create", wxITEM_NORMAL, {icon_create, drawing_create}, "Create"},
+    {ui::kIdSave, "Save", wxITEM_NORMAL, {icon_save, drawing_save}, "Save"},
+    {ui::kIdOptions, "Options", wxITEM_NORMAL, {icon_options, drawing_options}, "Options"},
+    {ui::kIdHelp, "Help", wxITEM_NORMAL, {icon_help, drawing_help}, "Help"},
 };
-constexpr Tool kGreylineTool{ui::kIdGreyline, "tool", wxITEM_CHECK, icon_greyline, "Greyline"};
+constexpr Tool kGreylineTool{ui::kIdGreyline, "tool", wxITEM_CHECK, {icon_greyline, drawing_greyline}, "Greyline"};
 
-using Icon = const char* const*;
-constexpr std::array<Icon, std::size(propagation::kFrequencies)> kFrequencyIcons{
-    icon_fq_3_5,  icon_fq_7_0,  icon_fq_10_1, icon_fq_14_0, icon_fq_18_1,
-    icon_fq_21_0, icon_fq_24_9, icon_fq_28_0, icon_fq_user};
-constexpr std::array<Icon, config::kParameters.size()> kParameterIcons{icon_signal, icon_snr, icon_muf, icon_rel};
+constexpr std::array<ui::ToolPicture, std::size(propagation::kFrequencies)> kFrequencyIcons{{
+    {icon_fq_3_5, drawing_fq_3_5},
+    {icon_fq_7_0, drawing_fq_7_0},
+    {icon_fq_10_1, drawing_fq_10_1},
+    {icon_fq_14_0, drawing_fq_14_0},
+    {icon_fq_18_1, drawing_fq_18_1},
+    {icon_fq_21_0, drawing_fq_21_0},
+    {icon_fq_24_9, drawing_fq_24_9},
+    {icon_fq_28_0, drawing_fq_28_0},
+    {icon_fq_user, drawing_fq_user},
+}};
+constexpr std::array<ui::ToolPicture, config::kParameters.size()> kParameterIcons{{
+    {icon_signal, drawing_signal},
+    {icon_snr, drawing_snr},
+    {icon_muf, drawing_muf},
+    {icon_rel, drawing_rel},
+}};
 static_assert(ui::kIdLastFrequency - ui::kIdFirstFrequency + 1 == kFrequencyIcons.size());
 
 Tool FrequencyTool(std::size_t i)
@@ -75,7 +89,7 @@ void AddTool(wxToolBar* bar, const Tool& tool)
     if (tool.kind == wxITEM_SEPARATOR)
         bar->AddSeparator();
     else
-        bar->AddTool(tool.id, tool.label, wxBitmap(tool.icon), wxNullBitmap, tool.kind);
+        bar->AddTool(tool.id, tool.label, ui::BundleOf(tool.icon), wxBitmapBundle(), tool.kind);
 }
 
 /// From the left.
@@ -85,7 +99,7 @@ std::vector<Tool> ToolsInOrder()
     for (std::size_t i = 0; i < kFrequencyIcons.size(); ++i)
         tools.push_back(FrequencyTool(i));
     // Two radio groups side by side would be one.
-    tools.push_back({wxID_SEPARATOR, "", wxITEM_SEPARATOR, nullptr, ""});
+    tools.push_back({wxID_SEPARATOR, "", wxITEM_SEPARATOR, {}, ""});
     for (std::size_t i = 0; i < kParameterIcons.size(); ++i)
         tools.push_back(ParameterTool(i));
     tools.push_back(kGreylineTool);

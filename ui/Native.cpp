@@ -94,6 +94,11 @@ void AllocateSize(wxWindow* topLevel)
     gtk_widget_size_allocate(widget, &allocation);
 }
 
+void KeepScrollBarsInSight(wxWindow* scrolled)
+{
+    gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scrolled->GetHandle()), FALSE);
+}
+
 bool MoveFocusOnToolBar(wxToolBar* bar, int step)
 {
     Widgets stops = PartsOf(bar->GetHandle());

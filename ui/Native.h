@@ -14,6 +14,9 @@ void ReportEveryMotion(wxWindow* window);
 /// toolbar complains on standard error.
 void AllocateSize(wxWindow* topLevel);
 
+/// Has a scrolled window show its scroll bars wherever something is out of sight, not only under a moving pointer.
+void KeepScrollBarsInSight(wxWindow* scrolled);
+
 /// Moves the keyboard's focus through what can be pressed or typed into on a toolbar: to the next (step 1) or the one
 /// before (step -1); from outside to the first or the last. @return false where there is none.
 bool MoveFocusOnToolBar(wxToolBar* bar, int step);

@@ -1,5 +1,7 @@
 #include "ui/options/Controls.h"
 
+#include "ui/Native.h"
+
 #include <wx/log.h>
 #include <wx/utils.h>
 #include <wx/valtext.h>
@@ -63,6 +65,7 @@ wxScrolledWindow* NewPage(wxBookCtrlBase* book, const wxString& title)
 {
     auto* const page = new wxScrolledWindow(book);
     page->SetScrollRate(10, 10);
+    native::KeepScrollBarsInSight(page);
     book->AddPage(page, title);
     return page;
 }
