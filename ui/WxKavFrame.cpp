@@ -27,6 +27,7 @@ WxKavFrame::WxKavFrame(wxWindow* parent, std::unique_ptr<Configuration> settings
     SetStatusText("Kavmap By QQ0QQQ", 0);
     SetStatusText(wxVERSION_STRING, 1);
     m_locator->ChangeValue(m_settings->centreLoc);
+    m_locator->SelectAll(); // so that typing replaces it
     m_toolBar->EnableTool(ui::kIdSave, false);
     m_toolBar->EnableTool(ui::kIdGreyline, false);
     SetPropagationTools(false, m_settings->propagation.frequency, m_settings->propagation.parameter);

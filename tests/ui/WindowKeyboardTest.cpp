@@ -85,6 +85,13 @@ TEST_F(ScreenWindowKeyboard, BeginsInTheLocatorField)
     EXPECT_EQ(Focus(), "field");
 }
 
+TEST_F(ScreenWindowKeyboard, WhatIsTypedFirstTakesThePlaceOfTheLocator)
+{
+    for (const char key : {'K', 'P', '2', '0'})
+        Press(key);
+    EXPECT_EQ(LocatorField().GetValue().Upper(), "KP20");
+}
+
 TEST_F(ScreenWindowKeyboard, TabGoesFromTheFieldThroughTheEnabledToolsToTheCanvas)
 {
     LocatorField().SetFocus();
