@@ -2,6 +2,7 @@
 #include "tests/support/OptionsFixture.h"
 #include "tests/support/Pictures.h"
 
+#include <wx/fontpicker.h>
 #include <wx/scrolwin.h>
 
 #include <gtk/gtk.h>
@@ -109,5 +110,21 @@ TEST_F(OptionsOnSmallScreensTest, ShowThatAPageGoesOn)
 {
     EXPECT_GE(CountScrolledWindows(dialog, true), 10u);
     EXPECT_EQ(CountScrolledWindows(dialog, false), 0u);
+}
+
+TEST_F(OptionsOnSmallScreensTest, NameEveryFontInTheOrdinaryOne)
+{
+    std::size_t count = 0;
+    ForEachWindow(dialog,
+                  [&count](wxWindow* window)
+                  {
+                      if (auto* const picker = dynamic_cast<wxFontPickerCtrl*>(window))
+                      {
+                          GtkWidget* const button = picker->GetPickerCtrl()->GetHandle();
+                          EXPECT_FALSE(gtk_font_button_get_use_font(GTK_FONT_BUTTON(button)));
+                          ++count;
+                      }
+                  });
+    EXPECT_EQ(count, 6u);
 }
 } // namespace

@@ -91,7 +91,9 @@ wxRadioBox* NewRadioBox(wxWindow* parent, const wxString& label, const wxArraySt
 
 wxFontPickerCtrl* NewFont(wxWindow* parent)
 {
-    auto* const font = new wxFontPickerCtrl(parent, wxID_ANY);
+    // The label is in the ordinary font: one in a large font of its own has no room.
+    auto* const font =
+        new wxFontPickerCtrl(parent, wxID_ANY, wxNullFont, wxDefaultPosition, wxDefaultSize, wxFNTP_FONTDESC_AS_LABEL);
     // Whatever the name of the font: a button shortens one that is longer than most.
     const int usual = font->GetTextExtent("Verdana Bold").x + font->GetTextExtent("20").x + kFontButtonDecoration;
     font->SetMinSize(wxSize(std::max(kFontButtonWidth, usual), -1));
