@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
+#include <map>
 
 namespace
 {
@@ -16,7 +17,17 @@ class SamplesTest : public ProgramTest
 protected:
     void SetUp() override { std::filesystem::create_directories(home.Path("voacap/areadata/default").utf8_string()); }
 
+    /// The picture of a sample, with other settings added; each is drawn once.
     wxImage Draw(const std::string& sample, const std::string& otherwise = "") const
+    {
+        static std::map<std::string, wxImage> drawn;
+        wxImage& picture = drawn[sample + otherwise];
+        if (!picture.IsOk())
+            picture = DrawAnew(sample, otherwise);
+        return picture;
+    }
+
+    wxImage DrawAnew(const std::string& sample, const std::string& otherwise) const
     {
         wxFile file(PathOf(sample));
         wxString settings;
