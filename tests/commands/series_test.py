@@ -111,7 +111,7 @@ class SeriesTest(command.CommandTest):
         self.assertIn("kavmap-series: interrupted, 3 of 7 pictures are there; started again it goes on", said)
         (self.home / "go").touch()
         self.assertEqual(len((self.home / "ran").read_text().splitlines()), 3)
-        for _ in range(100):  # what was ended removes what it made
+        for _ in range(1200):  # what was ended removes what it made
             if not list((self.home / "tmp").iterdir()):
                 break
             time.sleep(0.1)
