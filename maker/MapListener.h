@@ -1,15 +1,13 @@
 #pragma once
 
+#include "propagation/Progress.h"
+
 #include <wx/string.h>
 
-#include <chrono>
-
 /// Whoever wants to know what a MapMaker does: a window, or the command line.
-class MapListener
+class MapListener : public propagation::Progress
 {
 public:
-    virtual ~MapListener() = default;
-
     /// A creation begins: the map that there was is gone.
     virtual void OnCreationBegun() {}
 
@@ -17,7 +15,7 @@ public:
     virtual void OnNewMap(int /*side*/) {}
 
     /// What is being done now; an empty text when it is done.
-    virtual void OnStep(const wxString& text) = 0;
+    void OnStep(const wxString& text) override = 0;
 
     /// The time that the greyline is drawn for, and where the sun stands.
     virtual void OnSun(const wxString&) {}
@@ -31,9 +29,6 @@ public:
     /// Around the making of a propagation overlay, in which OnWaiting() may be called.
     virtual void OnPropagationBegun() {}
     virtual void OnPropagationEnded() {}
-
-    /// Called again and again while voacapl runs; false ends it, and whoever answers so tells the user.
-    virtual bool OnWaiting(std::chrono::milliseconds /*waited*/) { return true; }
 
     /// Rows of the base picture that are done, from 0 to all.
     virtual void OnRows(int /*done*/, int /*all*/) {}

@@ -8,6 +8,8 @@
 #include "render/MapSurface.h"
 #include "render/MapView.h"
 
+#include <wx/recguard.h>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -91,7 +93,8 @@ private:
     void DrawGrid(const LineStyle& style, const render::GridSpec& grid);
     bool HasMapOrError(const wxString& text);
 
-    bool RememberHourAngle(std::int64_t degree); ///< whether it differs from the one before
+    wxString MakePropagation(const UtcTime& now); ///< returns what is not right about it; empty when all is well
+    bool RememberHourAngle(std::int64_t degree);  ///< whether it differs from the one before
 
     Settings& m_settings;
     MapSurface& m_picture;
@@ -99,4 +102,5 @@ private:
     std::optional<MapView> m_view;                 ///< of the map in the picture
     std::optional<render::Layer> m_layer;          ///< for as long as a map is being made
     std::optional<std::int64_t> m_hourAngleDegree; ///< for which the greyline was last drawn in real time
+    wxRecursionGuardFlag m_makesPropagation = 0;   ///< more than 0 while it is made: a listener may handle events
 };

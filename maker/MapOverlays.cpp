@@ -49,7 +49,7 @@ void MapMaker::DrawOverlays()
 void MapMaker::DrawGreyline(bool isWanted)
 {
     // A tick may come while voacapl runs.
-    if (!HasMap() || Propagation::IsBusy())
+    if (!HasMap() || m_makesPropagation > 0)
         return;
     if (greylineDrawn)
         m_hourAngleDegree.reset();
@@ -83,17 +83,29 @@ bool MapMaker::RememberHourAngle(std::int64_t degree)
 
 void MapMaker::DrawPropagation(bool selectionChanged)
 {
-    if (!HasMap() || Propagation::IsBusy() || (!selectionChanged && UtcNow().minute != kPropagationMinute))
+    const UtcTime now = UtcNow();
+    if (!HasMap() || m_makesPropagation > 0 || (!selectionChanged && now.minute != kPropagationMinute))
         return;
     m_listener.OnStep("Drawing Prop...");
     m_listener.OnPropagationBegun();
-    const Propagation overlay(m_picture, *m_view, m_settings,
-                              {[this](const wxString& step) { m_listener.OnStep(step); },
-                               [this](const wxString& error) { m_listener.OnError(error); }},
-                              [this](auto waited) { return m_listener.OnWaiting(waited); });
+    const wxString warning = MakePropagation(now);
     m_listener.OnPropagationEnded();
     m_listener.OnStep("");
-    if (!overlay.Warning().empty())
-        m_listener.OnWarning(overlay.Warning());
+    if (!warning.empty())
+        m_listener.OnWarning(warning);
     m_listener.OnPictureChanged();
+}
+
+wxString MapMaker::MakePropagation(const UtcTime& now)
+{
+    const wxRecursionGuard guard(m_makesPropagation);
+    m_picture.showPropagation = false;
+    Propagation made = Propagation::Compute(m_settings, *m_view, now, m_listener);
+    m_settings.propagation.engine = made.engine;
+    for (const wxString& error : made.errors)
+        m_listener.OnError(error);
+    if (!made.overlay || m_picture.PutPropagation(std::move(made.overlay)))
+        return made.warning;
+    m_listener.OnError("Error creating bitmap original function Prop");
+    return {};
 }

@@ -155,12 +155,12 @@ OutsideProgram::~OutsideProgram()
     StatusOf(m_process);
 }
 
-std::optional<int> OutsideProgram::Wait(const KeepWaiting& keepWaiting)
+std::optional<int> OutsideProgram::Wait(Progress& progress)
 {
     if (m_process <= 0)
         return kNotStarted;
     for (const auto start = Clock::now(); !HasEnded(m_process); std::this_thread::sleep_for(kPause))
-        if (keepWaiting && !keepWaiting(std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start)))
+        if (!progress.OnWaiting(std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start)))
             return std::nullopt;
     LeaveEndings();
     return StatusOf(std::exchange(m_process, -1));

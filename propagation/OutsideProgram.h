@@ -1,16 +1,13 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
+#include "propagation/Progress.h"
+
 #include <optional>
 
 #include <sys/types.h>
 
 namespace propagation
 {
-/// Asked again and again while an outside program runs; false ends that program. An empty one waits for ever.
-using KeepWaiting = std::function<bool(std::chrono::milliseconds waited)>;
-
 /**
  * An outside program at work, with an empty standard input and in a process group of its own.
  *
@@ -28,8 +25,8 @@ public:
     OutsideProgram(const OutsideProgram&) = delete;
     OutsideProgram& operator=(const OutsideProgram&) = delete;
 
-    /// Returns its exit status, or minus the signal that ended it; none when keepWaiting has ended it.
-    std::optional<int> Wait(const KeepWaiting& keepWaiting);
+    /// Returns its exit status, or minus the signal that ended it; none when progress has ended it.
+    std::optional<int> Wait(Progress& progress);
 
 private:
     pid_t m_process;

@@ -1,48 +1,31 @@
 #pragma once
 
-#include "propagation/Messages.h"
-#include "propagation/ResultReader.h"
-#include "propagation/VoacapRun.h"
-#include "render/MapSurface.h"
+#include "config/Settings.h"
+#include "config/UtcTime.h"
+#include "propagation/Progress.h"
 #include "render/MapView.h"
+#include "render/PictureRows.h"
 
-/**
- * One propagation overlay: made for one map, used once.
- *
- * Everything happens in the constructor: voacapl is run, its result is read (or that of another run, when the settings
- * name one), and the overlay is put into the picture and shown. Whatever fails is reported to the user and leaves the
- * picture's previous overlay in place but hidden; so does, silently, a result with too few points, and a run that
- * keepWaiting has ended: who ends it says so.
- */
-class Propagation
+#include <memory>
+#include <vector>
+
+/// One propagation overlay, or why there is none.
+struct Propagation
 {
-public:
+    /// None after an error; none either, silently, of a result with too few points, and of a run that Progress has
+    /// ended.
+    std::unique_ptr<render::PictureRows> overlay;
+    std::vector<wxString> errors; ///< messages for the user, in their order
+    wxString warning;             ///< what is not right about the overlay; empty when all is well
+    int engine;                   ///< what the engine's setting is from now on
+
     /**
-     * @param         view     of the map in the picture.
-     * @param[in,out] settings the engine is set to VOACAP when voacapl is run.
-     * @pre no other object is at work, see IsBusy(); a second one does nothing.
+     * Has the engine that the settings choose run, or takes the result of another run when they name one, and makes
+     * the overlay of the result.
+     *
+     * @param[in] view of the map that the overlay is for; the settings may describe another by now.
+     * @param[in] now  the time that counts in real time.
      */
-    Propagation(MapSurface& picture, const MapView& view, Settings& settings, propagation::Reports reports,
-                propagation::KeepWaiting keepWaiting = {});
-    Propagation(const Propagation&) = delete;
-    Propagation& operator=(const Propagation&) = delete;
-
-    /// What is not right about the overlay that was drawn, for the user; empty when all is well.
-    const wxString& Warning() const { return m_warning; }
-
-    /// Whether an overlay is being made: keepWaiting may handle events.
-    static bool IsBusy();
-
-private:
-    void RunAndDraw();
-    void DrawResultIn(const wxString& path);
-    void Draw(const propagation::ResultGrid& result);
-
-    MapSurface& m_picture;
-    const MapView& m_view;
-    Settings& m_settings;
-    const propagation::Reports m_reports;
-    const propagation::KeepWaiting m_keepWaiting;
-    const propagation::AreaFiles m_files;
-    wxString m_warning;
+    static Propagation Compute(const Settings& settings, const MapView& view, const UtcTime& now,
+                               propagation::Progress& progress);
 };

@@ -1,5 +1,6 @@
 #include "reports/SettingRanges.h"
 
+#include "propagation/Engines.h"
 #include "render/MapView.h"
 
 namespace reports
@@ -36,7 +37,7 @@ constexpr SettingRange kRanges[] = {
     {"Greyzone/CalDa", 1, 31, kNoDate},
     {"Greyzone/CalHo", 0, 23, kNoDate},
     {"Greyzone/CalMi", 0, 59, kNoDate},
-    {"Propagation/Engine", 0, 1, "VOACAP is used anyway"},
+    {"Propagation/Engine", 0, std::size(propagation::kEngines) - 1, "VOACAP is used anyway"},
     {"Propagation/Grid", 0, 10, kNearest},
     {"Propagation/Fq", 0, 8, kNearest},
     {"Propagation/TxPwr", 0, 6, kNearest},

@@ -1,6 +1,7 @@
 #include "maker/MapMaker.h"
 
 #include "render/MapPicture.h"
+#include "tests/support/ScarceMemory.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -10,6 +11,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 namespace
 {
@@ -46,10 +48,15 @@ protected:
     void OnGreylineShown() override { told.emplace_back("greyline"); }
     void OnPropagationBegun() override { told.emplace_back("propagation begun"); }
     void OnPropagationEnded() override { told.emplace_back("propagation ended"); }
-    bool OnWaiting(std::chrono::milliseconds) override { return ++asked < 5; }
+    bool OnWaiting(std::chrono::milliseconds) override { return whileWaiting(); }
 
-    /// Runs the outside program's stand-in.
+    /// Makes a map with the outside program's stand-in.
     void RunStandIn(const char* behaviour)
+    {
+        WithStandIn(behaviour, [this] { EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished); });
+    }
+
+    void WithStandIn(const char* behaviour, const std::function<void()>& act)
     {
         settings.propagation.show = true;
         settings.propagation.grid = 0;
@@ -59,7 +66,7 @@ protected:
         wxGetEnv("PATH", &path);
         wxSetEnv("PATH", KAV_STAND_IN ":" + path);
         wxSetEnv("KAV_STAND_IN", behaviour);
-        EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+        act();
         wxSetEnv("PATH", path);
         wxUnsetEnv("KAV_STAND_IN");
     }
@@ -80,6 +87,7 @@ protected:
     MapMaker maker{settings, picture, *this};
     std::vector<std::string> told;
     int asked = 0;
+    std::function<bool()> whileWaiting = [this] { return ++asked < 5; };
 };
 
 TEST_F(MapMakerTest, TellsItsStepsInTheirOrder)
@@ -140,6 +148,64 @@ TEST_F(MapMakerTest, TellsThatVoacaplFailed)
     RunStandIn("fails");
     EXPECT_THAT(told, Contains("error Error calling VOACAP"));
     EXPECT_FALSE(picture.showPropagation);
+}
+
+TEST_F(MapMakerTest, HidesThePreviousOverlayWhenThereIsNoOther)
+{
+    RunStandIn("");
+    ASSERT_TRUE(picture.showPropagation);
+    for (const char* behaviour : {"fails", "no result", "hangs"})
+    {
+        const wxBitmap* const previous = picture.propagationBitmap.get();
+        picture.showPropagation = true;
+        WithStandIn(behaviour, [this] { maker.DrawPropagation(true); });
+        EXPECT_EQ(picture.propagationBitmap.get(), previous) << behaviour;
+        EXPECT_FALSE(picture.showPropagation) << behaviour;
+    }
+}
+
+TEST_F(MapMakerTest, TellsThatThereIsNoMemoryForTheOverlay)
+{
+    settings.size = 6000;
+    ASSERT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+    settings.propagation.useExternalResult = true;
+    settings.propagation.externalResult = KAV_TEST_DATA "/area_36x36.vg1";
+    picture.showPropagation = true;
+    told.clear();
+    {
+        const ScarceMemory memory;
+        maker.DrawPropagation(true);
+    }
+    EXPECT_THAT(told, Contains("error Error creating bitmap original function Prop").Times(1));
+    EXPECT_FALSE(picture.showPropagation);
+}
+
+TEST_F(MapMakerTest, TakesOverThatVoacapWasRun)
+{
+    settings.propagation.engine = 0;
+    RunStandIn("");
+    EXPECT_EQ(settings.propagation.engine, 1);
+}
+
+TEST_F(MapMakerTest, DrawsNoOverlayWhileOneIsBeingMade)
+{
+    settings.greyzone.show = true;
+    whileWaiting = [this]
+    {
+        told.clear();
+        maker.DrawGreyline();
+        maker.DrawPropagation(true);
+        EXPECT_THAT(told, testing::IsEmpty());
+        if (++asked == 3)
+            home.Write("data/go on", "");
+        return true;
+    };
+    RunStandIn("waits");
+    EXPECT_GE(asked, 3);
+    EXPECT_TRUE(picture.showPropagation);
+    told.clear();
+    maker.DrawGreyline();
+    EXPECT_THAT(told, Contains(StartsWith("sun ")));
 }
 
 TEST_F(MapMakerTest, WarnsOfAResultThatIsNotWholeAndDrawsIt)

@@ -2,10 +2,11 @@
 
 #include "render/BitmapPixels.h"
 #include "render/Layer.h"
-#include "render/MapPicture.h"
 #include "tests/propagation/PlaceAt.h"
+#include "tests/support/Pictures.h"
 #include "tests/support/TemporaryHome.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <wx/dcmemory.h>
@@ -62,7 +63,7 @@ struct Scale
     }
 };
 
-class PropagationPictureTest : public testing::Test
+class PropagationPictureTest : public testing::Test, protected propagation::Progress
 {
 protected:
     PropagationPictureTest()
@@ -71,14 +72,14 @@ protected:
         settings.propagation.externalResult = kRealResult;
     }
 
+    void OnStep(const wxString&) override {}
+
     std::unique_ptr<wxBitmap> Draw()
     {
         view = render::MakeMapView(settings, 17);
-        const Propagation propagation(
-            picture, view, settings,
-            {[](const wxString&) {}, [this](const wxString& error) { errors.push_back(error); }});
-        EXPECT_TRUE(picture.showPropagation);
-        return std::move(picture.propagationBitmap);
+        const Propagation made = Propagation::Compute(settings, view, UtcNow(), *this);
+        EXPECT_THAT(made.errors, testing::IsEmpty());
+        return BitmapOf(*made.overlay);
     }
 
     /// The chosen parameter's values in the real result.
@@ -117,9 +118,7 @@ protected:
     }
 
     const TemporaryHome home;
-    std::vector<wxString> errors;
     Settings settings = DefaultSettings();
-    MapPicture picture;
     MapView view;
 };
 
@@ -322,10 +321,9 @@ TEST_F(PropagationPictureTest, NamesAntennasByTheBytesOfTheirFiles)
     wxGetEnv("PATH", &pathBefore);
     wxSetEnv("PATH", home.Path("none"));
     view = render::MakeMapView(settings, 17);
-    const Propagation propagation(picture, view, settings,
-                                  {[](const wxString&) {}, [this](const wxString& error) { errors.push_back(error); }});
+    const Propagation made = Propagation::Compute(settings, view, UtcNow(), *this);
     wxSetEnv("PATH", pathBefore);
-    EXPECT_EQ(errors, std::vector<wxString>{"Error calling VOACAP"});
+    EXPECT_EQ(made.errors, std::vector<wxString>{"Error calling VOACAP"});
     const std::string written = home.Read("areadata/default/kavdex.voa");
     EXPECT_NE(written.find("\nTx Ants  :[blåbær  \\地図.00       ]"), std::string::npos) << written;
     EXPECT_NE(written.find("\nRec Ants :[ascii   \\other.00    ]"), std::string::npos) << written;

@@ -1,10 +1,8 @@
 #include "propagation/Propagation.h"
 
 #include "propagation/AreaInput.h"
-#include "render/MapPicture.h"
 #include "tests/propagation/Results.h"
 #include "tests/support/Pictures.h"
-#include "tests/support/ScarceMemory.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -12,6 +10,7 @@
 
 #include <fcntl.h>
 #include <filesystem>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -51,7 +50,7 @@ private:
     bool m_wasAdministrator;
 };
 
-class PropagationTest : public testing::Test
+class PropagationTest : public testing::Test, protected propagation::Progress
 {
 protected:
     PropagationTest()
@@ -72,33 +71,20 @@ protected:
         std::filesystem::create_directories(home.Path(name + "/areadata/default").utf8_string());
     }
 
-    /// Draws an overlay and returns the errors that were reported.
-    std::vector<std::string> Draw(const wxString& behaviour = "")
+    void OnStep(const wxString& step) override { steps.push_back(step.utf8_string()); }
+    bool OnWaiting(std::chrono::milliseconds) override { return keepWaiting(); }
+
+    /// Computes an overlay and returns the errors.
+    std::vector<wxString> Compute(const wxString& behaviour = "")
     {
         const EnvironmentVariable how("KAV_STAND_IN", behaviour);
         steps.clear();
-        std::vector<std::string> errors;
         view = render::MakeMapView(settings, 1);
-        const Propagation propagation(picture, view, settings,
-                                      {[this](const wxString& step) { steps.push_back(step.utf8_string()); },
-                                       [&errors](const wxString& error) { errors.push_back(error.utf8_string()); }},
-                                      keepWaiting);
-        return errors;
+        made = Propagation::Compute(settings, view, now, *this);
+        return made.errors;
     }
 
-    /// Puts an overlay into the picture that a failure has to leave alone.
-    wxBitmap* ShowPreviousOverlay()
-    {
-        picture.propagationBitmap = std::make_unique<wxBitmap>(5, 5, 32);
-        picture.showPropagation = true;
-        return picture.propagationBitmap.get();
-    }
-
-    void ExpectPreviousOverlayHidden(const wxBitmap* previous) const
-    {
-        EXPECT_EQ(picture.propagationBitmap.get(), previous);
-        EXPECT_FALSE(picture.showPropagation);
-    }
+    Colours ComputedColours() const { return ColoursOf(*BitmapOf(*made.overlay)); }
 
     int Runs() const
     {
@@ -112,33 +98,32 @@ protected:
     wxString path = wxString(KAV_STAND_IN) + ":" + wxGetenv("PATH");
     EnvironmentVariable searchPath{"PATH", path};
     Settings settings = DefaultSettings();
-    MapPicture picture;
     MapView view;
+    UtcTime now{2026, 9, 21, 13, 31, 0};
+    Propagation made{};
     std::vector<std::string> steps;
-    propagation::KeepWaiting keepWaiting;
+    std::function<bool()> keepWaiting = [] { return true; };
 };
 
 const char kInput[] = "voacap/areadata/default/kavdex.voa";
 const char kResult[] = "voacap/areadata/default/kavdex.vg1";
 
-TEST_F(PropagationTest, ShowsTheOverlayOfARun)
+TEST_F(PropagationTest, MakesTheOverlayOfARun)
 {
-    EXPECT_THAT(Draw(), IsEmpty());
+    EXPECT_THAT(Compute(), IsEmpty());
     EXPECT_EQ(Runs(), 1);
-    EXPECT_TRUE(picture.showPropagation);
-    ASSERT_TRUE(picture.propagationBitmap);
-    EXPECT_EQ(picture.propagationBitmap->GetSize(), wxSize(200, 200));
+    ASSERT_TRUE(made.overlay);
+    EXPECT_EQ(made.overlay->Side(), 200);
     EXPECT_THAT(steps,
                 ElementsAre("Calling VoaArea...", "Reading file...", "Calling Regrid...", "Creating prop img..."));
-    EXPECT_FALSE(Propagation::IsBusy());
 }
 
 TEST_F(PropagationTest, ColoursTheResultOfTheRun)
 {
     settings.centreLat = settings.centreLon = 0;
     settings.propagation.alpha = 255;
-    ASSERT_THAT(Draw(), IsEmpty());
-    const Colours colours = ColoursOf(*picture.propagationBitmap);
+    ASSERT_THAT(Compute(), IsEmpty());
+    const Colours colours = ComputedColours();
     // The stand-in's power grows from -160 dBW in the west to -90 in the east: -142.5, S2, 90 degrees west of the
     // middle and -107.5, S8, as far to the east.
     EXPECT_EQ(colours[100][50], render::OpaquePixel(0, 0, 128));
@@ -151,10 +136,10 @@ TEST_F(PropagationTest, ReadsTheParameterThatIsChosen)
     settings.propagation.alpha = 255;
     settings.propagation.parameter = 3;
     settings.propagation.greyScale = 1;
-    ASSERT_THAT(Draw(), IsEmpty());
+    ASSERT_THAT(Compute(), IsEmpty());
     // The stand-in's reliability grows from 0 in the south to 1 in the north.
-    EXPECT_EQ(ColoursOf(*picture.propagationBitmap)[75][100], render::OpaquePixel(175, 175, 175));
-    EXPECT_EQ(ColoursOf(*picture.propagationBitmap)[125][100], render::OpaquePixel(50, 50, 50));
+    EXPECT_EQ(ComputedColours()[75][100], render::OpaquePixel(175, 175, 175));
+    EXPECT_EQ(ComputedColours()[125][100], render::OpaquePixel(50, 50, 50));
 }
 
 TEST_F(PropagationTest, WritesTheInputOfTheRun)
@@ -162,18 +147,16 @@ TEST_F(PropagationTest, WritesTheInputOfTheRun)
     settings.propagation.transmitter.file = "/usr/local/share/voacapl/antennas/samples/sample.00";
     settings.propagation.receiver.file = "/usr/local/share/voacapl/antennas/default/isotrope";
     settings.greyzone.once = {2026, 2, 21, 17, 0, 0};
-    ASSERT_THAT(Draw(), IsEmpty());
+    ASSERT_THAT(Compute(), IsEmpty());
     EXPECT_EQ(home.Read(kInput), propagation::AreaInputText(settings, {settings.centreLat, settings.centreLon}, {3, 17},
                                                             {"samples \\sample.00   ", "default \\isotrope    "})
                                      .utf8_string());
 }
 
-TEST_F(PropagationTest, RunsForTheHourByTheClockInRealTime)
+TEST_F(PropagationTest, RunsForTheHourThatItIsInRealTime)
 {
     settings.greyzone.timeMode = kRealTime;
-    const Clock before = SetClock([] { return std::time_t{1792589460}; }); // 2026-10-21 13:31 UTC
-    EXPECT_THAT(Draw(), IsEmpty());
-    SetClock(before);
+    EXPECT_THAT(Compute(), IsEmpty()); // 13:31
     EXPECT_THAT(home.Read(kInput), testing::HasSubstr("\nMonths   :  10.00 "));
     EXPECT_THAT(home.Read(kInput), testing::HasSubstr("\nHours    :     14 "));
 }
@@ -181,12 +164,13 @@ TEST_F(PropagationTest, RunsForTheHourByTheClockInRealTime)
 TEST_F(PropagationTest, TurnsTheEngineToVoacapOnceTheInputIsOpen)
 {
     settings.propagation.engine = 0;
-    Draw();
-    EXPECT_EQ(settings.propagation.engine, 1);
-    settings.propagation.engine = 0;
+    Compute();
+    EXPECT_EQ(made.engine, 1);
+    Compute("fails");
+    EXPECT_EQ(made.engine, 1);
     settings.propagation.directory = home.Path("none");
-    Draw();
-    EXPECT_EQ(settings.propagation.engine, 0);
+    Compute();
+    EXPECT_EQ(made.engine, 0);
 }
 
 TEST_F(PropagationTest, PassesDirectoriesWithBlanksAndForeignLetters)
@@ -194,42 +178,31 @@ TEST_F(PropagationTest, PassesDirectoriesWithBlanksAndForeignLetters)
     for (const char* name : {"two words", "blåbær 地図", "-s", "a'b\"c"})
     {
         MakeDataDirectory(wxString::FromUTF8(name));
-        EXPECT_THAT(Draw(), IsEmpty()) << name;
-        EXPECT_TRUE(picture.showPropagation);
+        EXPECT_THAT(Compute(), IsEmpty()) << name;
+        EXPECT_TRUE(made.overlay);
     }
 }
 
 TEST_F(PropagationTest, GivesTheRunAnEmptyInput)
 {
-    EXPECT_THAT(Draw("reads input"), IsEmpty());
-    EXPECT_TRUE(picture.showPropagation);
-}
-
-TEST_F(PropagationTest, ReplacesThePreviousOverlay)
-{
-    Draw();
-    const wxBitmap* const first = picture.propagationBitmap.get();
-    Draw();
-    EXPECT_NE(picture.propagationBitmap.get(), first);
-    EXPECT_EQ(Runs(), 2);
+    EXPECT_THAT(Compute("reads input"), IsEmpty());
+    EXPECT_TRUE(made.overlay);
 }
 
 TEST_F(PropagationTest, ReportsARunThatFailsOnce)
 {
     for (const char* behaviour : {"fails", "dies"})
     {
-        const wxBitmap* const previous = ShowPreviousOverlay();
-        EXPECT_THAT(Draw(behaviour), ElementsAre("Error calling VOACAP")) << behaviour;
-        ExpectPreviousOverlayHidden(previous);
+        EXPECT_THAT(Compute(behaviour), ElementsAre("Error calling VOACAP")) << behaviour;
+        EXPECT_FALSE(made.overlay);
     }
 }
 
 TEST_F(PropagationTest, ReportsAMissingProgramOnce)
 {
     const EnvironmentVariable nowhere("PATH", home.Path("voacap"));
-    const wxBitmap* const previous = ShowPreviousOverlay();
-    EXPECT_THAT(Draw(), ElementsAre("Error calling VOACAP"));
-    ExpectPreviousOverlayHidden(previous);
+    EXPECT_THAT(Compute(), ElementsAre("Error calling VOACAP"));
+    EXPECT_FALSE(made.overlay);
 }
 
 TEST_F(PropagationTest, NeverTakesAnOldResultForANewOne)
@@ -237,16 +210,15 @@ TEST_F(PropagationTest, NeverTakesAnOldResultForANewOne)
     for (const char* behaviour : {"no result", "empty result"})
     {
         home.Write(kResult, SdbwResult(18, [](int, int) { return -50; }));
-        const wxBitmap* const previous = ShowPreviousOverlay();
-        EXPECT_THAT(Draw(behaviour), ElementsAre("File open error in Prop")) << behaviour;
-        ExpectPreviousOverlayHidden(previous);
+        EXPECT_THAT(Compute(behaviour), ElementsAre("File open error in Prop")) << behaviour;
+        EXPECT_FALSE(made.overlay);
     }
 }
 
 TEST_F(PropagationTest, DoesNotRunOverAResultThatCantBeRemoved)
 {
     home.Write(wxString(kResult) + "/file", "");
-    EXPECT_THAT(Draw(), ElementsAre("Error calling VOACAP"));
+    EXPECT_THAT(Compute(), ElementsAre("Error calling VOACAP"));
     EXPECT_EQ(Runs(), 0);
 }
 
@@ -254,9 +226,9 @@ TEST_F(PropagationTest, DrawsWhatThereIsOfAShortResult)
 {
     settings.centreLat = settings.centreLon = 0;
     settings.propagation.alpha = 255;
-    EXPECT_THAT(Draw("truncated"), IsEmpty());
-    EXPECT_TRUE(picture.showPropagation);
-    EXPECT_EQ(ColoursOf(*picture.propagationBitmap)[60][100], render::OpaquePixel(255, 0, 0)); // 0 dBW
+    EXPECT_THAT(Compute("truncated"), IsEmpty());
+    EXPECT_TRUE(made.overlay);
+    EXPECT_EQ(ComputedColours()[60][100], render::OpaquePixel(255, 0, 0)); // 0 dBW
 }
 
 TEST_F(PropagationTest, ReportsAnInputThatCantBeWritten)
@@ -266,9 +238,8 @@ TEST_F(PropagationTest, ReportsAnInputThatCantBeWritten)
     for (const wxString& directory : {wxString(), home.Path("none"), home.Path("file"), home.Path("voacap")})
     {
         settings.propagation.directory = directory;
-        const wxBitmap* const previous = ShowPreviousOverlay();
-        EXPECT_THAT(Draw(), ElementsAre("File open error in Prop", "Error calling VOACAP")) << directory;
-        ExpectPreviousOverlayHidden(previous);
+        EXPECT_THAT(Compute(), ElementsAre("File open error in Prop", "Error calling VOACAP")) << directory;
+        EXPECT_FALSE(made.overlay);
     }
     EXPECT_EQ(Runs(), 0);
 }
@@ -278,7 +249,7 @@ TEST_F(PropagationTest, ReportsADirectoryThatMayNotBeWritten)
     std::filesystem::permissions(home.Path("").utf8_string(), std::filesystem::perms(0755));
     std::filesystem::permissions(home.Path("voacap/areadata/default").utf8_string(), std::filesystem::perms(0555));
     const OrdinaryUser user;
-    EXPECT_THAT(Draw(), ElementsAre("File open error in Prop", "Error calling VOACAP"));
+    EXPECT_THAT(Compute(), ElementsAre("File open error in Prop", "Error calling VOACAP"));
 }
 
 TEST_F(PropagationTest, RefusesAntennasWithLongNamesBeforeAnythingIsWritten)
@@ -286,13 +257,12 @@ TEST_F(PropagationTest, RefusesAntennasWithLongNamesBeforeAnythingIsWritten)
     home.Write(kInput, "old");
     settings.propagation.engine = 0;
     settings.propagation.receiver.file = "a/b/c/d/e/default/1234567890.antenna";
-    const wxBitmap* const previous = ShowPreviousOverlay();
-    EXPECT_THAT(Draw(), ElementsAre("File name max 12 characters", "Error calling VOACAP"));
+    EXPECT_THAT(Compute(), ElementsAre("File name max 12 characters", "Error calling VOACAP"));
     settings.propagation.transmitter.file = "home/user/itshfbc/antennas/samples/sample.00";
-    EXPECT_THAT(Draw(), ElementsAre("Directory name max 8 characters", "Error calling VOACAP"));
-    ExpectPreviousOverlayHidden(previous);
+    EXPECT_THAT(Compute(), ElementsAre("Directory name max 8 characters", "Error calling VOACAP"));
+    EXPECT_FALSE(made.overlay);
     EXPECT_EQ(home.Read(kInput), "old");
-    EXPECT_EQ(settings.propagation.engine, 0);
+    EXPECT_EQ(made.engine, 0);
     EXPECT_THAT(steps, IsEmpty());
 }
 
@@ -303,11 +273,11 @@ TEST_F(PropagationTest, ReadsAnotherRunsResultWithoutRunningAnything)
     settings.propagation.externalResult = KAV_TEST_DATA "/area_36x36.vg1";
     settings.propagation.transmitter.file = "home/user/itshfbc/antennas/samples/sample.00";
     settings.propagation.engine = 0;
-    EXPECT_THAT(Draw(), IsEmpty());
-    EXPECT_TRUE(picture.showPropagation);
+    EXPECT_THAT(Compute(), IsEmpty());
+    EXPECT_TRUE(made.overlay);
     EXPECT_THAT(steps, ElementsAre("Reading file...", "Calling Regrid...", "Creating prop img..."));
     EXPECT_FALSE(Exists(kInput));
-    EXPECT_EQ(settings.propagation.engine, 0);
+    EXPECT_EQ(made.engine, 0);
 }
 
 TEST_F(PropagationTest, ReportsAnotherRunsResultThatCantBeOpened)
@@ -316,21 +286,9 @@ TEST_F(PropagationTest, ReportsAnotherRunsResultThatCantBeOpened)
     for (const wxString& file : {wxString(), home.Path("none.vg1"), home.Path("voacap")})
     {
         settings.propagation.externalResult = file;
-        const wxBitmap* const previous = ShowPreviousOverlay();
-        EXPECT_THAT(Draw(), ElementsAre("File open error in Prop")) << file;
-        ExpectPreviousOverlayHidden(previous);
+        EXPECT_THAT(Compute(), ElementsAre("File open error in Prop")) << file;
+        EXPECT_FALSE(made.overlay);
     }
-}
-
-TEST_F(PropagationTest, ReportsThatThereIsNoMemoryForTheOverlay)
-{
-    settings.propagation.useExternalResult = true;
-    settings.propagation.externalResult = KAV_TEST_DATA "/area_36x36.vg1";
-    settings.size = 6000;
-    const wxBitmap* const previous = ShowPreviousOverlay();
-    const ScarceMemory memory;
-    EXPECT_THAT(Draw(), ElementsAre("Error creating bitmap original function Prop"));
-    ExpectPreviousOverlayHidden(previous);
 }
 
 TEST_F(PropagationTest, IsSilentAboutAResultWithTooFewPoints)
@@ -339,43 +297,43 @@ TEST_F(PropagationTest, IsSilentAboutAResultWithTooFewPoints)
     for (const std::string& text : {std::string(), ResultHeader(" 17"), ResultHeader("xyz")})
     {
         settings.propagation.externalResult = home.Write("small.vg1", text);
-        const wxBitmap* const previous = ShowPreviousOverlay();
-        EXPECT_THAT(Draw(), IsEmpty());
-        ExpectPreviousOverlayHidden(previous);
+        EXPECT_THAT(Compute(), IsEmpty());
+        EXPECT_FALSE(made.overlay);
     }
 }
 
 TEST_F(PropagationTest, DrawsTheLegendOnRequest)
 {
     settings.size = 400;
-    Draw();
-    const Colours without = ColoursOf(*picture.propagationBitmap);
+    Compute();
+    const Colours without = ComputedColours();
     settings.propagation.legend = 1;
-    Draw();
-    EXPECT_FALSE(SamePicture(ColoursOf(*picture.propagationBitmap), without));
+    Compute();
+    EXPECT_FALSE(SamePicture(ComputedColours(), without));
     settings.propagation.legend = 2;
-    Draw();
-    EXPECT_TRUE(SamePicture(ColoursOf(*picture.propagationBitmap), without));
+    Compute();
+    EXPECT_TRUE(SamePicture(ComputedColours(), without));
 }
 
 TEST_F(PropagationTest, TakesTheLowEightBitsOfTheOpacity)
 {
     settings.propagation.alpha = 300;
-    Draw();
-    const render::BitmapPixels pixels(*picture.propagationBitmap);
-    EXPECT_EQ(pixels.Row(1)[1] >> 24, 44u);
+    Compute();
+    std::vector<render::Argb> row(static_cast<std::size_t>(made.overlay->Side()));
+    made.overlay->Row(1, row);
+    EXPECT_EQ(row[1] >> 24, 44u);
 }
 
 TEST_F(PropagationTest, BelongsToTheMapNotToTheSettings)
 {
-    Draw();
+    Compute();
     const std::string input = home.Read(kInput);
     settings.size = 333;
     settings.zoom = 100;
     settings.centreLat = -12;
     settings.centreLon = 95;
-    const Propagation again(picture, view, settings, {[](const wxString&) {}, [](const wxString&) {}});
-    EXPECT_EQ(picture.propagationBitmap->GetSize(), wxSize(200, 200));
+    made = Propagation::Compute(settings, view, now, *this);
+    EXPECT_EQ(made.overlay->Side(), 200);
     EXPECT_EQ(home.Read(kInput), input);
 }
 
@@ -383,33 +341,13 @@ TEST_F(PropagationTest, NeverWaitsForAPipeInPlaceOfTheInput)
 {
     std::filesystem::remove(home.Path(kInput).utf8_string());
     ASSERT_EQ(mkfifo(home.Path(kInput).fn_str(), 0600), 0);
-    EXPECT_THAT(Draw(), ElementsAre("File open error in Prop", "Error calling VOACAP"));
+    EXPECT_THAT(Compute(), ElementsAre("File open error in Prop", "Error calling VOACAP"));
 }
 
-TEST_F(PropagationTest, IsNotStartedASecondTimeWhileItRuns)
+TEST_F(PropagationTest, IsSilentAboutARunThatIsEnded)
 {
-    int busy = 0;
-    keepWaiting = [&](std::chrono::milliseconds)
-    {
-        busy += Propagation::IsBusy();
-        const Propagation second(picture, view, settings,
-                                 {[](const wxString&) { ADD_FAILURE(); }, [](const wxString&) { ADD_FAILURE(); }});
-        if (busy >= 4)
-            home.Write("voacap/go on", "");
-        return true;
-    };
-    EXPECT_THAT(Draw("waits"), IsEmpty());
-    EXPECT_TRUE(Exists("voacap/go on"));
-    EXPECT_EQ(Runs(), 1);
-    EXPECT_TRUE(picture.showPropagation);
-}
-
-TEST_F(PropagationTest, HidesThePreviousOverlayOfARunThatIsEnded)
-{
-    keepWaiting = [](std::chrono::milliseconds) { return false; };
-    const wxBitmap* const previous = ShowPreviousOverlay();
-    EXPECT_THAT(Draw("hangs"), IsEmpty());
-    ExpectPreviousOverlayHidden(previous);
-    EXPECT_FALSE(Propagation::IsBusy());
+    keepWaiting = [] { return false; };
+    EXPECT_THAT(Compute("hangs"), IsEmpty());
+    EXPECT_FALSE(made.overlay);
 }
 } // namespace

@@ -1,7 +1,7 @@
 #include "ui/options/VoacapMainPage.h"
 
 #include "propagation/AreaInput.h"
-#include "propagation/VoacapRun.h"
+#include "propagation/Engines.h"
 #include "ui/options/FileKinds.h"
 #include "ui/options/Placing.h"
 
