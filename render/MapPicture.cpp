@@ -2,6 +2,7 @@
 
 #include "render/BitmapPixels.h"
 #include "render/Bitmaps.h"
+#include "render/Images.h"
 #include "render/Layer.h"
 
 #include <wx/dcmemory.h>

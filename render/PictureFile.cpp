@@ -1,7 +1,7 @@
 #include "render/PictureFile.h"
 
 #include "config/SpecialFile.h"
-#include "render/Bitmaps.h"
+#include "render/Images.h"
 #include "render/RowFile.h"
 
 #include <wx/filefn.h>

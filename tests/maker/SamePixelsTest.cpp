@@ -1,6 +1,6 @@
 #include "maker/MapMaker.h"
 
-#include "render/Bitmaps.h"
+#include "render/Images.h"
 #include "render/MapPicture.h"
 #include "render/MapRows.h"
 #include "tests/support/TemporaryHome.h"

@@ -2,6 +2,7 @@
 
 #include "render/Bitmaps.h"
 #include "render/HugePages.h"
+#include "render/Images.h"
 #include "render/Layer.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/ScarceMemory.h"

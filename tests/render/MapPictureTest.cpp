@@ -1,6 +1,7 @@
 #include "render/MapPicture.h"
 
 #include "render/Bitmaps.h"
+#include "render/Images.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/ScarceMemory.h"
 

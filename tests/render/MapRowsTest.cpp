@@ -1,6 +1,7 @@
 #include "render/MapRows.h"
 
 #include "render/Blend.h"
+#include "render/Images.h"
 #include "render/Layer.h"
 #include "render/MapPicture.h"
 #include "tests/support/Pictures.h"

@@ -1,6 +1,6 @@
 #include "render/RowFile.h"
 
-#include "render/Bitmaps.h"
+#include "render/Images.h"
 
 #include <gtest/gtest.h>
 
