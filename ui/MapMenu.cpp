@@ -41,7 +41,7 @@ Rows SpotRows(const MapSpot& spot, std::optional<double> bearing,
     if (spot.place)
     {
         rows.push_back(Copying("Copy locator", spot.place->locator));
-        rows.push_back(Copying("Copy position", wxString::Format("%.4f,%.4f", spot.place->lat, spot.place->lon)));
+        rows.push_back(Copying("Copy position", wxString::Format("%.4f,%.4f", spot.place->at.lat, spot.place->at.lon)));
     }
     if (bearing)
         rows.push_back(Copying("Copy bearing", wxString::Format("%.1f", *bearing)));

@@ -12,8 +12,8 @@ MapPlace PlaceAt(const AzimuthalProjection& projection, geo::MapPoint point)
     double lon{};
     double lat{};
     projection.Inverse(lon, lat, point.x, point.y);
-    MapPlace place{lat * geo::kDegPerRad, lon * geo::kDegPerRad, kScratchLocator};
-    Configuration::LatLonToLocator(place.locator, place.lat, place.lon);
+    MapPlace place{{lat * geo::kDegPerRad, lon * geo::kDegPerRad}, kScratchLocator};
+    Configuration::LatLonToLocator(place.locator, place.at.lat, place.at.lon);
     return place;
 }
 } // namespace
@@ -31,8 +31,8 @@ wxString ReadOutOf(const MapSpot& spot)
 {
     if (!spot.place)
         return "";
-    const auto& [lat, lon, locator] = *spot.place;
-    return wxString::Format("lat = %3.1f / long = %3.1f / %s / %5.1f km / %3.1f degs", lat, lon, locator,
-                            spot.fromStation.distanceKm, spot.fromStation.bearingDeg);
+    return wxString::Format("lat = %3.1f / long = %3.1f / %s / %5.1f km / %3.1f degs", spot.place->at.lat,
+                            spot.place->at.lon, spot.place->locator, spot.fromStation.distanceKm,
+                            spot.fromStation.bearingDeg);
 }
 } // namespace ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geo/LatLon.h"
 #include "geo/MapFrame.h"
 #include "render/MapView.h"
 
@@ -16,8 +17,7 @@ inline constexpr const char* kScratchLocator = "AA11RR";
 /// A place on the earth.
 struct MapPlace
 {
-    double lat; ///< degrees, north positive
-    double lon; ///< degrees, east positive
+    geo::LatLon at;
     wxString locator;
 };
 
