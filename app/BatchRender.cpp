@@ -1,5 +1,6 @@
 #include "app/BatchRender.h"
 
+#include "app/ErrorLines.h"
 #include "maker/MapMaker.h"
 #include "propagation/InputRules.h"
 #include "render/MapRows.h"
@@ -15,28 +16,6 @@ namespace app
 {
 namespace
 {
-int messageCount = 0;
-
-void Report(const wxString& message)
-{
-    ++messageCount;
-    std::fprintf(stderr, "kavmap: %s\n", message.utf8_str().data());
-}
-
-class LogToStandardError : public wxLog
-{
-protected:
-    void DoLogTextAtLevel(wxLogLevel level, const wxString& text) override
-    {
-        if (level <= wxLOG_Message)
-            Report(text);
-    }
-    void DoLogRecord(wxLogLevel level, const wxString& text, const wxLogRecordInfo&) override
-    {
-        DoLogTextAtLevel(level, text);
-    }
-};
-
 void Warn(const wxString& text)
 {
     std::fprintf(stderr, "kavmap: warning: %s\n", text.utf8_str().data());
@@ -79,7 +58,7 @@ private:
 
 int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds voacaplLimit, bool withWorldFile)
 {
-    delete wxLog::SetActiveTarget(new LogToStandardError);
+    const int before = ReportCount();
     WarnOfInput(settings.propagation);
     Printer printer(voacaplLimit);
     MapRows picture;
@@ -88,6 +67,6 @@ int RenderToFile(Settings& settings, const wxString& path, std::chrono::seconds 
     if (written && withWorldFile)
         reports::WriteGeoreference(*maker.View(), path);
     wxLog::FlushActive();
-    return !written ? 1 : messageCount > 0 ? 2 : 0;
+    return !written ? 1 : ReportCount() > before ? 2 : 0;
 }
 } // namespace app

@@ -114,6 +114,12 @@ CommandLine WrongUse(const std::string& what)
     return Done(1);
 }
 
+/// Ends the program well if all that was printed could be written.
+CommandLine Printed()
+{
+    return std::fflush(stdout) == 0 ? Done(0) : WrongUse(std::string("can't write: ") + std::strerror(errno));
+}
+
 /// Takes the rotator of the environment where the command line has none and one is of use. @return what is wrong.
 std::string TakeRotatorOfEnvironment(CommandLine& line)
 {
@@ -156,10 +162,10 @@ CommandLine ParseCommandLine(int argc, char** argv)
         {
         case 'h':
             std::fputs(kHelp, stdout);
-            return Done(0);
+            return Printed();
         case kVersionOption:
             std::printf("Kavmap " KAV_VERSION "\n%ls\n", wxVERSION_STRING);
-            return Done(0);
+            return Printed();
         case 's':
             line.settings = optarg;
             if (const char* const obstacle = ObstacleTo(optarg))

@@ -2,6 +2,7 @@
 
 #include "app/Aim.h"
 #include "app/BatchRender.h"
+#include "app/ErrorLines.h"
 #include "app/FileNames.h"
 #include "app/StartSettings.h"
 #include "reports/PrintBearings.h"
@@ -48,6 +49,7 @@ bool ConsoleApp::OnInit()
 {
     // Numbers are written and read with a decimal point.
     std::setlocale(LC_ALL, "C");
+    LogToStandardError();
     TakeFileNamesAsBytes();
     wxInitAllImageHandlers();
     OrdinaryFont::Provide();

@@ -7,23 +7,45 @@
 #include "geo/Locator.h"
 
 #include <wx/log.h>
+#include <wx/utils.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
+#include <cstring>
+#include <unistd.h>
 
 namespace
 {
-/// Why the user's file can't be one; none if it can.
-const char* ObstacleAt(const wxString& appName)
+/// The user's file of that name; empty where the system knows no home.
+wxString PathOf(const wxString& appName)
 {
-    return PipeOrDeviceAt(wxFileConfig::GetLocalFileName(appName).fn_str());
+    return wxGetUserHome().empty() ? wxString() : wxFileConfig::GetLocalFileName(appName);
 }
 
-/// The user's file, unless one might wait for it for ever, and the system's.
-int FilesOf(const wxString& appName)
+/// Why settings can't be kept in a file, which may not be there yet; none if they can. One might wait for pipes and
+/// devices for ever, and what can't be read must not be replaced.
+const char* ObstacleAt(const wxString& path)
 {
-    return wxCONFIG_USE_GLOBAL_FILE | (ObstacleAt(appName) ? 0 : int{wxCONFIG_USE_LOCAL_FILE});
+    if (path.empty())
+        return "there is no home directory";
+    if (const char* const obstacle = PipeOrDeviceAt(path.fn_str()))
+        return obstacle;
+    return access(path.fn_str(), R_OK) != 0 && errno != ENOENT ? std::strerror(errno) : nullptr;
+}
+
+wxString UsablePathOf(const wxString& appName)
+{
+    const wxString path = PathOf(appName);
+    return ObstacleAt(path) ? wxString() : path;
+}
+
+void ReportObstacle(const wxString& appName)
+{
+    const wxString path = PathOf(appName);
+    if (const char* const obstacle = ObstacleAt(path))
+        wxLogError("can't keep settings in '%s': %s", path.empty() ? "~/." + appName : path, obstacle);
 }
 
 /// The fewest digits that read back as the same number; the toolkit would write six.
@@ -46,15 +68,15 @@ void WriteSetting(wxConfigBase& file, const wxString& key, const Value& member)
 
 // The toolkit keeps quiet for as long as the base opens its files: damaged files are not reported.
 Configuration::Configuration(const wxString& appName)
-    : wxFileConfig((QuietToolkit(), appName), "", "", "", FilesOf(appName))
+    : WholeFileConfig((QuietToolkit(), appName), UsablePathOf(appName), wxCONFIG_USE_GLOBAL_FILE)
 {
-    if (const char* const obstacle = ObstacleAt(appName))
-        wxLogError("can't keep settings in '%s': %s", GetLocalFileName(appName), obstacle);
+    ReportObstacle(appName);
     ReadAll();
+    Flush();
 }
 
 Configuration::Configuration(const wxString& appName, wxConfigBase& source)
-    : wxFileConfig((QuietToolkit(), appName), "", "", "", FilesOf(appName))
+    : WholeFileConfig((QuietToolkit(), appName), UsablePathOf(appName), wxCONFIG_USE_GLOBAL_FILE)
 {
     ReadAllFrom(source);
 }

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "config/Settings.h"
-
-#include <wx/fileconf.h>
+#include "config/WholeFileConfig.h"
 
 /**
  * The settings, and the working settings file that keeps them between runs.
@@ -10,10 +9,11 @@
  * Settings never fail: a key that is missing or unreadable takes its default, silently. Texts come back exactly as they
  * were written.
  */
-class Configuration : public wxFileConfig, public Settings
+class Configuration : public WholeFileConfig, public Settings
 {
 public:
-    /// Opens the user's working file of that name and reads it with ReadAll().
+    /// Opens the user's working file of that name, reads it with ReadAll() and writes what it lacked. The toolkit's log
+    /// says why no settings can be kept there; then they have their defaults, and nothing is written anywhere.
     explicit Configuration(const wxString& appName);
 
     /// Takes the settings from another object. The working file is opened but neither read nor completed.

@@ -2,6 +2,7 @@
 
 #include "config/QuietToolkit.h"
 #include "config/SpecialFile.h"
+#include "config/WholeFileConfig.h"
 
 #include <wx/filename.h>
 #include <wx/log.h>
@@ -18,7 +19,7 @@ std::unique_ptr<wxFileConfig> OpenSettingsFile(const wxString& path)
     // A relative name would be looked up in the home directory.
     wxFileName absolute(path);
     absolute.MakeAbsolute();
-    auto file = std::make_unique<wxFileConfig>("", "", absolute.GetFullPath(), "", wxCONFIG_USE_LOCAL_FILE);
+    auto file = std::make_unique<WholeFileConfig>("", absolute.GetFullPath(), 0);
     file->SetExpandEnvVars(false);
     return file;
 }

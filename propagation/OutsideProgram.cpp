@@ -1,8 +1,6 @@
 #include "propagation/OutsideProgram.h"
 
-#include <array>
 #include <cerrno>
-#include <csignal>
 #include <thread>
 #include <utility>
 
@@ -20,43 +18,11 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kPause(10);
 
-/// The signals by which a user ends this program.
-constexpr std::array kEndings{SIGHUP, SIGINT, SIGQUIT, SIGTERM};
+volatile pid_t theGroup = 0; ///< that runs now
 
-volatile std::sig_atomic_t theGroup = 0; ///< that runs now
-std::array<struct sigaction, kEndings.size()> theActionsBefore;
-
-void EndGroupToo(int ending)
+void EndGroup()
 {
     kill(-theGroup, SIGKILL);
-    // Then as if it had not been caught.
-    for (std::size_t i = 0; i < kEndings.size(); ++i)
-        if (kEndings[i] == ending)
-            sigaction(ending, &theActionsBefore[i], nullptr);
-    raise(ending);
-}
-
-void WatchEndings(pid_t group)
-{
-    theGroup = group;
-    struct sigaction action
-    {
-    };
-    action.sa_handler = EndGroupToo;
-    action.sa_flags = SA_RESTART;
-    for (std::size_t i = 0; i < kEndings.size(); ++i)
-    {
-        sigaction(kEndings[i], nullptr, &theActionsBefore[i]);
-        if (theActionsBefore[i].sa_handler != SIG_IGN)
-            sigaction(kEndings[i], &action, nullptr);
-    }
-}
-
-void LeaveEndings()
-{
-    for (std::size_t i = 0; i < kEndings.size(); ++i)
-        sigaction(kEndings[i], &theActionsBefore[i], nullptr);
-    theGroup = 0;
 }
 
 /// The signals that end this program wait for as long as it lives.
@@ -67,7 +33,7 @@ public:
     {
         sigset_t endings;
         sigemptyset(&endings);
-        for (const int ending : kEndings)
+        for (const int ending : kEndingSignals)
             sigaddset(&endings, ending);
         sigprocmask(SIG_BLOCK, &endings, &before);
     }
@@ -133,13 +99,14 @@ OutsideProgram::OutsideProgram(const char* const* arguments) : m_process(-1)
         if (m_process > 0)
         {
             setpgid(m_process, m_process); // whoever of the two comes first
-            WatchEndings(m_process);
+            theGroup = m_process;
+            m_endings.emplace(EndGroup);
         }
     }
     close(failure[1]);
     if (m_process > 0 && SaysFailure(failure[0]))
     {
-        LeaveEndings();
+        m_endings.reset();
         StatusOf(m_process);
         m_process = -1;
     }
@@ -151,7 +118,7 @@ OutsideProgram::~OutsideProgram()
     if (m_process <= 0)
         return;
     kill(-m_process, SIGKILL);
-    LeaveEndings();
+    m_endings.reset();
     StatusOf(m_process);
 }
 
@@ -162,7 +129,7 @@ std::optional<int> OutsideProgram::Wait(Progress& progress)
     for (const auto start = Clock::now(); !HasEnded(m_process); std::this_thread::sleep_for(kPause))
         if (!progress.OnWaiting(std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start)))
             return std::nullopt;
-    LeaveEndings();
+    m_endings.reset();
     return StatusOf(std::exchange(m_process, -1));
 }
 } // namespace propagation

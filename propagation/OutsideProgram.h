@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/Endings.h"
 #include "propagation/Progress.h"
 
 #include <optional>
@@ -30,5 +31,6 @@ public:
 
 private:
     pid_t m_process;
+    std::optional<Endings> m_endings;
 };
 } // namespace propagation

@@ -1,9 +1,8 @@
 #include "reports/Georeference.h"
 
-#include "config/SpecialFile.h"
+#include "config/WholeFile.h"
 #include "geo/WorldFile.h"
 
-#include <wx/file.h>
 #include <wx/log.h>
 
 namespace reports
@@ -12,13 +11,11 @@ namespace
 {
 bool WriteWhole(const wxString& path, const std::string& text)
 {
-    if (const char* const obstacle = SpecialFileAt(path.fn_str()))
-    {
-        wxLogError("Couldn't write %s: %s", path, obstacle);
-        return false;
-    }
-    wxTempFile file;
-    return file.Open(path) && file.Write(text.data(), text.size()) && file.Commit();
+    const wxString reason =
+        WriteWholeFile(path, [&text](wxOutputStream& stream) { return stream.WriteAll(text.data(), text.size()); });
+    if (!reason.empty())
+        wxLogError("Couldn't write %s: %s", path, reason);
+    return reason.empty();
 }
 } // namespace
 

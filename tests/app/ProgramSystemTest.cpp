@@ -1,10 +1,13 @@
+#include "tests/support/Processes.h"
 #include "tests/support/ProgramFixture.h"
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <ctime>
 #include <filesystem>
 #include <set>
+#include <unistd.h>
 
 namespace
 {
@@ -173,5 +176,54 @@ TEST_F(ProgramSystemTest, EndsWithNothingWhereTheOverlayWasDrawnAndWithTwoWhereN
     home.Write("plain.ini", "Size=120\n");
     EXPECT_EQ(Run("-s plain.ini -r plain.pnm"), 0);
     EXPECT_EQ(home.Read("failed.pnm"), home.Read("plain.pnm"));
+}
+
+TEST_F(ProgramSystemTest, SaysThatHelpAndVersionDidNotFitTheDisc)
+{
+    for (const char* option : {"--help", "--version"})
+    {
+        EXPECT_EQ(Shell(std::string(KAVMAP_PROGRAM " ") + option + " 2>err.txt >/dev/full"), 1) << option;
+        EXPECT_EQ(Err(), "kavmap: can't write: No space left on device\n");
+    }
+}
+
+TEST_F(ProgramSystemTest, LeavesNothingUnfinishedWhenASignalEndsIt)
+{
+    // A picture that takes long to write.
+    home.Write("large.ini", "Size=6000\n");
+    home.Write("map.png", "precious");
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+    {
+        const pid_t program = fork();
+        if (program == 0)
+        {
+            execl(KAVMAP_PROGRAM, "kavmap", "-s", "large.ini", "-r", "map.png", static_cast<char*>(nullptr));
+            _exit(127);
+        }
+        EXPECT_TRUE(AwaitQuietly([&] { return CountFilesLike("kavmap-unfinished-*") == 1; }));
+        kill(program, signal);
+        int status = 0;
+        EXPECT_EQ(waitpid(program, &status, 0), program);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
+        EXPECT_EQ(CountFilesLike("kavmap-unfinished-*"), 0u) << signal;
+        EXPECT_TRUE(home.Read("map.png") == "precious");
+    }
+}
+
+TEST_F(ProgramSystemTest, DrawsWithoutAHomeAndSaysSoOnce)
+{
+    home.Write("file", "");
+    for (const auto& [directory, message] :
+         {std::pair{std::string("/none"), std::string("/none/.Kavdex': No such file or directory")},
+          {home.Path("file").utf8_string(), home.Path("file/.Kavdex").utf8_string() + "': Not a directory"},
+          {std::string(), std::string("~/.Kavdex': there is no home directory")}})
+    {
+        EXPECT_EQ(Run("-r a.png", "HOME=" + directory), 0);
+        EXPECT_EQ(Err(), "kavmap: can't keep settings in '" + message + "\n");
+        EXPECT_EQ(Picture("a.png").GetWidth(), 900);
+        EXPECT_EQ(unlink("a.png"), 0);
+    }
+    EXPECT_FALSE(std::filesystem::exists("/.Kavdex"));
+    EXPECT_FALSE(std::filesystem::exists(".Kavdex"));
 }
 } // namespace

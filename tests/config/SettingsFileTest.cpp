@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <unistd.h>
 #include <wx/filefn.h>
 
 namespace
@@ -73,5 +74,16 @@ TEST(SettingsFile, IsNeverWaitedForInAPipe)
     EXPECT_FALSE(OpenSettingsFile(pipe));
     EXPECT_TRUE(log.Text().Contains("can't open the settings file '" + pipe + "': it is a pipe or a device"));
     EXPECT_TRUE(OpenSettingsFile("/dev/null"));
+}
+
+TEST(SettingsFile, IsWrittenWhereALinkLeadsAndNeverInPlaceOfADevice)
+{
+    const TemporaryHome home;
+    ASSERT_EQ(symlink("target.ini", home.Path("link.ini").fn_str()), 0);
+    OpenSettingsFile("link.ini")->Write("Size", 5L);
+    EXPECT_EQ(home.Read("target.ini"), "Size=5\n");
+    const RecordedLog log;
+    OpenSettingsFile("/dev/null")->Write("Size", 5L);
+    EXPECT_TRUE(log.Text().EndsWith("can't keep settings in '/dev/null': it is a pipe or a device\n"));
 }
 } // namespace

@@ -16,7 +16,10 @@
 
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 namespace
 {
@@ -218,5 +221,78 @@ TEST(WorkingFile, IsNeverWaitedForInAPipe)
     };
     EXPECT_EQ(stat(home.WorkingFile().fn_str(), &status), 0);
     EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
+/// Whether a log holds one error and no more. The time comes before it.
+testing::AssertionResult SaysOnly(const RecordedLog& log, const wxString& error)
+{
+    const bool isIt = log.Text().EndsWith("Error: " + error + "\n") && log.Text().Freq('\n') == 1;
+    return (isIt ? testing::AssertionSuccess() : testing::AssertionFailure()) << log.Text().utf8_string();
+}
+
+TEST(WorkingFile, IsKeptWhereALinkLeads)
+{
+    const TemporaryHome home;
+    ASSERT_EQ(symlink("elsewhere.ini", home.WorkingFile().fn_str()), 0);
+    {
+        Configuration("Kavdex").Write("Unknown", "new there"); // is not there yet
+    }
+    EXPECT_THAT(home.Read("elsewhere.ini"), HasSubstr("Unknown=new there\n"));
+    home.Write("elsewhere.ini", "Size=321\n");
+    {
+        Configuration settings("Kavdex");
+        EXPECT_EQ(settings.size, 321);
+        settings.size = 654;
+        settings.WriteAll();
+    }
+    EXPECT_THAT(home.Read("elsewhere.ini"), HasSubstr("Size=654\n"));
+    EXPECT_TRUE(std::filesystem::is_symlink(home.WorkingFile().utf8_string()));
+}
+
+TEST(WorkingFile, LeavesALoopOfLinksAndALinkToADeviceAlone)
+{
+    const TemporaryHome home;
+    for (const auto& [target, reason] :
+         {std::pair{".Kavdex", "Too many levels of symbolic links"}, {"/dev/full", "it is a pipe or a device"}})
+    {
+        ASSERT_EQ(symlink(target, home.WorkingFile().fn_str()), 0);
+        const RecordedLog log;
+        {
+            Configuration settings("Kavdex");
+            EXPECT_EQ(settings.size, 900);
+            settings.WriteAll();
+        }
+        EXPECT_TRUE(SaysOnly(log, "can't keep settings in '" + home.WorkingFile() + "': " + reason));
+        EXPECT_EQ(std::filesystem::read_symlink(home.WorkingFile().utf8_string()), target);
+        ASSERT_EQ(unlink(home.WorkingFile().fn_str()), 0);
+    }
+}
+
+TEST(WorkingFile, IsMissedOnceAndNowhereElseWhereThereIsNoHome)
+{
+    const TemporaryHome home;
+    home.Write("file", "");
+    for (const auto& [directory, reason] :
+         {std::pair{home.Path("none"), home.Path("none/.Kavdex") + "': No such file or directory"},
+          {home.Path("file"), home.Path("file/.Kavdex") + "': Not a directory"},
+          {wxString(), wxString("~/.Kavdex': there is no home directory")}})
+    {
+        const Environment environment("HOME", directory);
+        const RecordedLog log;
+        {
+            Configuration settings("Kavdex");
+            EXPECT_EQ(settings.size, 900);
+        }
+        EXPECT_TRUE(SaysOnly(log, "can't keep settings in '" + reason));
+    }
+    EXPECT_FALSE(std::filesystem::exists("/.Kavdex"));
+    EXPECT_FALSE(std::filesystem::exists(home.WorkingFile().utf8_string()));
+}
+
+TEST(WorkingFile, IsThereFromTheFirstStartOn)
+{
+    const TemporaryHome home;
+    const Configuration settings("Kavdex");
+    EXPECT_THAT(home.Read(".Kavdex"), HasSubstr("Size=900\n"));
 }
 } // namespace

@@ -166,6 +166,10 @@ TEST_F(PictureFileTest, IsWrittenWhereALinkLeads)
     ASSERT_EQ(symlink("target.png", home.Path("link.bmp").fn_str()), 0);
     EXPECT_TRUE(render::SavePicture(Motley(), home.Path("link.bmp")));
     EXPECT_EQ(home.Read("target.png").substr(0, 2), "BM");
+    // Also where nothing is yet.
+    ASSERT_EQ(unlink(home.Path("target.png").fn_str()), 0);
+    EXPECT_TRUE(render::SavePicture(Motley(), home.Path("link.bmp")));
+    EXPECT_EQ(home.Read("target.png").substr(0, 2), "BM");
 }
 
 TEST_F(PictureFileTest, MayHaveANameInAnyScript)
