@@ -67,4 +67,10 @@ int ConsoleApp::OnRun()
         return PrintBearings(line);
     return RenderToFile(*StartSettings(line), FileName(*line.render), line.voacaplTimeout, line.worldFile);
 }
+
+void ConsoleApp::OnUnhandledException()
+{
+    // Nothing is thrown but this, where memory is short.
+    Report("Not enough memory");
+}
 } // namespace app

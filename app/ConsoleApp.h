@@ -14,6 +14,7 @@ public:
 
     bool OnInit() override;
     int OnRun() override;
+    void OnUnhandledException() override;
 
 private:
     const CommandLine& m_commandLine;

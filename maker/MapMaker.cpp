@@ -1,11 +1,9 @@
 #include "maker/MapMaker.h"
 
-#include "config/DataFile.h"
+#include "render/DecodeApart.h"
 #include "render/Style.h"
 
 #include <wx/dcmemory.h>
-#include <wx/log.h>
-#include <wx/wfstream.h>
 
 #include <utility>
 
@@ -17,20 +15,6 @@ int MeasureCompassText(const wxString& fontDescription)
     wxMemoryDC dc(pixel);
     dc.SetFont(render::FontFromSetting(fontDescription));
     return dc.GetTextExtent("123400").y;
-}
-
-wxImage LoadPicture(const wxString& name)
-{
-    // A picture that can't be loaded gets one message, the program's own.
-    const wxLogNull silent;
-    wxImage image;
-    wxFile file;
-    if (!OpenDataFile(file, name))
-        return image;
-    wxFileInputStream bytes(file);
-    wxBufferedInputStream buffered(bytes);
-    image.LoadFile(buffered);
-    return image;
 }
 } // namespace
 
@@ -80,7 +64,8 @@ bool MapMaker::DrawBaseMaps()
     {
         if (!m_settings.sourceBitmaps[i].show)
             continue;
-        const wxImage image = LoadPicture(m_settings.sourceBitmaps[i].file);
+        // A picture that can't be loaded gets one message.
+        const wxImage image = render::LoadImageApart(m_settings.sourceBitmaps[i].file);
         if (!image.IsOk())
         {
             m_listener.OnError(wxString::Format("Error creating bitmap in function OnCreateMap%zu", i + 1));

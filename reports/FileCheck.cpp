@@ -2,12 +2,11 @@
 
 #include "config/DataFile.h"
 #include "propagation/ResultReader.h"
+#include "render/DecodeApart.h"
 #include "render/TextFile.h"
 #include "reports/BoundedFile.h"
 #include "reports/Places.h"
 
-#include <wx/image.h>
-#include <wx/log.h>
 #include <wx/tokenzr.h>
 
 #include <cstdlib>
@@ -67,11 +66,9 @@ wxString SourcePictureTrouble(const wxString& name)
 {
     if (name.empty())
         return kNoName;
-    const wxString path = FindDataFile(name);
-    if (const wxString obstacle = ObstacleTo(path); !obstacle.empty())
+    if (const wxString obstacle = ObstacleTo(FindDataFile(name)); !obstacle.empty())
         return name + ": " + obstacle;
-    const wxLogNull silent;
-    const wxImage image(path);
+    const wxImage image = render::LoadImageApart(name);
     if (!image.IsOk())
         return name + ": it is no picture that can be loaded";
     if (std::abs(image.GetWidth() - 2 * image.GetHeight()) <= 1)
