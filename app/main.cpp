@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 #include "app/ConsoleApp.h"
+#include "app/Room.h"
 #include "app/WxKavApp.h"
 #include "render/PictureFile.h"
 
@@ -42,6 +43,12 @@ int main(int argc, char** argv)
     }
     if (!line.AnswersInput())
         EmptyStandardInput();
+    if (const std::string lack = app::LackOf(line.ShowsWindow() ? app::kRoomForWindow : app::kRoomForPictures);
+        !lack.empty())
+    {
+        std::fprintf(stderr, "kavmap: %s\n", lack.c_str());
+        return 1;
+    }
     wxAppConsole::SetInitializerFunction(line.ShowsWindow() ? NewApp<WxKavApp> : NewApp<app::ConsoleApp>);
     int toolkitArgc = 1;
     const int status = wxEntry(toolkitArgc, argv);

@@ -1,5 +1,6 @@
 #include "tests/support/Processes.h"
 #include "tests/support/ProgramFixture.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <gmock/gmock.h>
 
@@ -225,5 +226,41 @@ TEST_F(ProgramSystemTest, DrawsWithoutAHomeAndSaysSoOnce)
     }
     EXPECT_FALSE(std::filesystem::exists("/.Kavdex"));
     EXPECT_FALSE(std::filesystem::exists(".Kavdex"));
+}
+
+TEST_F(ProgramSystemTest, SaysThatItHasTooLittleMemoryToStart)
+{
+    if (UnderAddressSanitizer())
+        GTEST_SKIP() << "AddressSanitizer needs more addresses than any limit gives";
+    home.Write("small.ini", "Size=120\n");
+    const auto run = [](int megabytes, const std::string& arguments)
+    {
+        return Shell("ulimit -v $((" + std::to_string(megabytes) + " * 1024)); timeout 100 " KAVMAP_PROGRAM " " +
+                     arguments + " 2>err.txt </dev/null");
+    };
+    for (const int megabytes : {80, 100, 120})
+    {
+        EXPECT_EQ(run(megabytes, "-s small.ini -r a.png"), 1) << megabytes;
+        EXPECT_EQ(Err(), "kavmap: not enough memory to start: 96 MB of address space are needed\n");
+        EXPECT_EQ(run(megabytes, ""), 1) << megabytes;
+        EXPECT_EQ(Err(), "kavmap: not enough memory to start: 160 MB of address space are needed\n");
+    }
+    EXPECT_EQ(run(400, "-s small.ini -r a.png"), 0);
+}
+
+TEST_F(ProgramSystemTest, SaysThatItMayOpenTooFewFiles)
+{
+    home.Write("small.ini", "Size=120\n");
+    const auto run = [](int files, const std::string& arguments)
+    {
+        return Shell("exec 2>err.txt </dev/null; ulimit -n " + std::to_string(files) +
+                     "; exec timeout 100 " KAVMAP_PROGRAM " " + arguments);
+    };
+    EXPECT_EQ(run(8, "-s small.ini -r a.png"), 1);
+    EXPECT_EQ(Err(), "kavmap: too few files may be open to start: 6 are needed\n");
+    EXPECT_EQ(run(12, ""), 1);
+    EXPECT_EQ(Err(), "kavmap: too few files may be open to start: 16 are needed\n");
+    EXPECT_EQ(run(64, "-s small.ini -r a.png"), 0);
+    EXPECT_EQ(Err(), "");
 }
 } // namespace
