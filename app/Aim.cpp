@@ -2,6 +2,7 @@
 
 #include "app/FileNames.h"
 #include "app/NamedPlace.h"
+#include "app/StandardStreams.h"
 #include "geo/Angles.h"
 #include "geo/MapFrame.h"
 #include "render/MapView.h"
@@ -21,7 +22,7 @@ constexpr double kFarthestKm = 20015.0;
 
 int Fail(const wxString& text)
 {
-    std::fprintf(stderr, "kavmap: %s\n", text.utf8_str().data());
+    std::fprintf(stderr, "kavmap: %s\n", Bytes(text).c_str());
     return 1;
 }
 
@@ -65,7 +66,8 @@ int Aim(const Settings& settings, const CommandLine& line)
                               places.front().lat, places.front().lon));
     const double wanted = line.longPath ? rotator::LongPath(*bearing) : *bearing;
     std::printf("%.1f\n", wanted);
-    std::fflush(stdout);
-    return line.rotator ? Turn(*line.rotator, wanted) : 0;
+    const bool isTold = HasAnswerArrived();
+    const int status = line.rotator ? Turn(*line.rotator, wanted) : 0;
+    return isTold ? status : 1;
 }
 } // namespace app

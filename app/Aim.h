@@ -13,8 +13,8 @@ namespace app
  * text.
  *
  * @param[in] line names the place, the path and the rotator.
- * @return exit status: 0, or 1 where the place is not known or has no bearing, or the rotator refuses or does not
- *         answer.
+ * @return exit status: 0, or 1 where the place is not known or has no bearing, the rotator refuses or does not answer,
+ *         or nobody gets the bearing.
  */
 int Aim(const Settings& settings, const CommandLine& line);
 } // namespace app

@@ -1,6 +1,7 @@
 #include "app/BatchRender.h"
 
 #include "app/ErrorLines.h"
+#include "app/FileNames.h"
 #include "maker/MapMaker.h"
 #include "propagation/InputRules.h"
 #include "render/MapRows.h"
@@ -18,7 +19,7 @@ namespace
 {
 void Warn(const wxString& text)
 {
-    std::fprintf(stderr, "kavmap: warning: %s\n", text.utf8_str().data());
+    std::fprintf(stderr, "kavmap: warning: %s\n", Bytes(text).c_str());
 }
 
 /// Warns of what voacapl will not read as it stands in the settings.

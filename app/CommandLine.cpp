@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include "app/StandardStreams.h"
 #include "config/SpecialFile.h"
 #include "config/Version.h"
 
@@ -114,12 +115,6 @@ CommandLine WrongUse(const std::string& what)
     return Done(1);
 }
 
-/// Ends the program well if all that was printed could be written.
-CommandLine Printed()
-{
-    return std::fflush(stdout) == 0 ? Done(0) : WrongUse(std::string("can't write: ") + std::strerror(errno));
-}
-
 /// Takes the rotator of the environment where the command line has none and one is of use. @return what is wrong.
 std::string TakeRotatorOfEnvironment(CommandLine& line)
 {
@@ -162,10 +157,10 @@ CommandLine ParseCommandLine(int argc, char** argv)
         {
         case 'h':
             std::fputs(kHelp, stdout);
-            return Printed();
+            return Done(HasAnswerArrived() ? 0 : 1);
         case kVersionOption:
             std::printf("Kavmap " KAV_VERSION "\n%ls\n", wxVERSION_STRING);
-            return Printed();
+            return Done(HasAnswerArrived() ? 0 : 1);
         case 's':
             line.settings = optarg;
             if (const char* const obstacle = ObstacleTo(optarg))

@@ -30,9 +30,16 @@ namespace app
 {
 namespace
 {
+// Whoever only asks does not care whether the working settings can be kept.
+
+int PrintAim(const CommandLine& line)
+{
+    const wxLogNull silent;
+    return Aim(*StartSettings(line), line);
+}
+
 int PrintBearings(const CommandLine& line)
 {
-    // Whoever only asks does not care whether the working settings can be kept.
     const wxLogNull silent;
     const auto settings = StartSettings(line);
     return line.AnswersInput() ? reports::AnswerBearings(*settings, line.time, stdin, stdout)
@@ -62,7 +69,7 @@ int ConsoleApp::OnRun()
     if (line.check)
         return reports::PrintCheck(line.settings ? std::optional(FileName(*line.settings)) : std::nullopt, stdout);
     if (line.aim)
-        return Aim(*StartSettings(line), line);
+        return PrintAim(line);
     if (line.bearings)
         return PrintBearings(line);
     return RenderToFile(*StartSettings(line), FileName(*line.render), line.voacaplTimeout, line.worldFile);

@@ -1,5 +1,7 @@
 #include "app/ErrorLines.h"
 
+#include "app/FileNames.h"
+
 #include <wx/log.h>
 
 #include <cstdio>
@@ -28,7 +30,7 @@ protected:
 void Report(const wxString& error)
 {
     ++theCount;
-    std::fprintf(stderr, "kavmap: %s\n", error.utf8_str().data());
+    std::fprintf(stderr, "kavmap: %s\n", Bytes(error).c_str());
 }
 
 void LogToStandardError()

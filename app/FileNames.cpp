@@ -18,4 +18,10 @@ wxString FileName(const std::string& bytes)
 {
     return {bytes.c_str(), theFileNames};
 }
+
+std::string Bytes(const wxString& text)
+{
+    const auto bytes = text.mb_str(theFileNames);
+    return {bytes.data(), bytes.length()};
+}
 } // namespace app

@@ -12,4 +12,7 @@ void TakeFileNamesAsBytes();
 
 /// A name as the system passed it.
 wxString FileName(const std::string& bytes);
+
+/// A text as it is printed: the names in it as the system passed them.
+std::string Bytes(const wxString& text);
 } // namespace app

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 #include "app/ConsoleApp.h"
 #include "app/Room.h"
+#include "app/StandardStreams.h"
 #include "app/WxKavApp.h"
 #include "render/PictureFile.h"
 
@@ -32,6 +33,7 @@ void EmptyStandardInput()
 
 int main(int argc, char** argv)
 {
+    app::OccupyClosedStreams();
     theCommandLine = app::ParseCommandLine(argc, argv);
     const app::CommandLine& line = theCommandLine;
     if (line.exitStatus)

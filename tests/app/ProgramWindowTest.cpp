@@ -5,12 +5,14 @@
 #include <wx/utils.h>
 
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <set>
 #include <signal.h>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 // Last, for they define words like None and Bool.
 #include <X11/Xatom.h>
@@ -24,7 +26,7 @@ const char kTitle[] = "Kavmap V3.1.9 Linux QQ0QQQ";
 class Screen
 {
 public:
-    Screen() : m_display(XOpenDisplay(nullptr), XCloseDisplay)
+    explicit Screen(const char* name = nullptr) : m_display(XOpenDisplay(name), XCloseDisplay)
     {
         // Windows may vanish while they are asked.
         XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
@@ -88,26 +90,29 @@ private:
 class RunningProgram
 {
 public:
-    RunningProgram() : m_process(fork())
+    RunningProgram() : RunningProgram({KAVMAP_PROGRAM}) {}
+    explicit RunningProgram(std::vector<const char*> command) : m_process(fork())
     {
         if (m_process != 0)
             return;
         for (int file = STDERR_FILENO + 1; file < 256; ++file)
             close(file); // what the test itself was given
-        execl(KAVMAP_PROGRAM, "kavmap", static_cast<char*>(nullptr));
+        command.push_back(nullptr);
+        execvp(command[0], const_cast<char**>(command.data()));
         _exit(127);
     }
-    ~RunningProgram()
-    {
-        if (!HasEnded())
-        {
-            kill(m_process, SIGKILL);
-            waitpid(m_process, nullptr, 0);
-        }
-    }
+    ~RunningProgram() { Kill(); }
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
 
+    void Kill()
+    {
+        if (HasEnded())
+            return;
+        kill(m_process, SIGKILL);
+        waitpid(m_process, &m_status, 0);
+        m_hasEnded = true;
+    }
     bool HasEnded()
     {
         m_hasEnded = m_hasEnded || waitpid(m_process, &m_status, WNOHANG) == m_process;
@@ -127,6 +132,7 @@ public:
         return files;
     }
 
+    bool HasExited() const { return m_hasEnded && WIFEXITED(m_status); }
     bool HasSucceeded() const { return m_hasEnded && WIFEXITED(m_status) && WEXITSTATUS(m_status) == 0; }
 
 private:
@@ -162,5 +168,54 @@ TEST(ScreenProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
     EXPECT_TRUE(Await([&] { return program.HasEnded(); }));
     EXPECT_TRUE(program.HasSucceeded());
     EXPECT_NE(home.Read(".Kavdex").find("Zoom=20000\n"), std::string::npos);
+}
+
+/// A display that can be lost.
+class LosableDisplay
+{
+public:
+    LosableDisplay() : m_server({"sh", "-c", "exec Xvfb -displayfd 3 -noreset -nolisten tcp 3>number >server.txt 2>&1"})
+    {
+        std::ifstream number;
+        Await([&] { return (number.open("number"), number >> m_name) || (number.close(), false); });
+        m_name = ":" + m_name;
+        wxGetEnv("DISPLAY", &m_nameBefore);
+        wxSetEnv("DISPLAY", m_name);
+    }
+    ~LosableDisplay() { wxSetEnv("DISPLAY", m_nameBefore); }
+    LosableDisplay(const LosableDisplay&) = delete;
+    LosableDisplay& operator=(const LosableDisplay&) = delete;
+
+    bool Shows(const std::string& title) const
+    {
+        const Screen screen(m_name.c_str());
+        return screen.IsOk() && screen.Find(title) != None;
+    }
+    void Lose() { m_server.Kill(); }
+
+private:
+    RunningProgram m_server;
+    std::string m_name;
+    wxString m_nameBefore;
+};
+
+TEST(ProgramWindow, EndsWithItsDisplayAndLeavesNothingBehind)
+{
+    const TemporaryHome home;
+    home.Write(".Kavdex", "Size=123\n");
+    LosableDisplay display;
+    RunningProgram program;
+    ASSERT_TRUE(Await([&] { return display.Shows(kTitle) || program.HasEnded(); }));
+    ASSERT_FALSE(program.HasEnded());
+
+    display.Lose();
+    EXPECT_TRUE(Await([&] { return program.HasEnded(); }));
+    EXPECT_TRUE(program.HasExited());
+    EXPECT_FALSE(program.HasSucceeded());
+    std::set<std::string> left;
+    for (const auto& entry : std::filesystem::directory_iterator(home.Path("").utf8_string()))
+        left.insert(entry.path().filename());
+    EXPECT_EQ(left, (std::set<std::string>{".Kavdex", "number", "server.txt"}));
+    EXPECT_EQ(home.Read(".Kavdex"), "Size=123\n");
 }
 } // namespace
