@@ -184,7 +184,7 @@ TEST_F(ProgramSystemTest, SaysThatHelpAndVersionDidNotFitTheDisc)
     for (const char* option : {"--help", "--version"})
     {
         EXPECT_EQ(Shell(std::string(KAVMAP_PROGRAM " ") + option + " 2>err.txt >/dev/full"), 1) << option;
-        EXPECT_EQ(Err(), "kavmap: can't write: No space left on device\n");
+        EXPECT_EQ(Err(), "kavmap: can't write the answer: No space left on device\n");
     }
 }
 
