@@ -14,6 +14,14 @@ target_compile_options(
             -ffp-contract=off
             $<$<BOOL:${KAV_WERROR}>:-Werror>)
 
+# What releases get besides: checks where libraries are called and where vectors and spans are indexed, guards around the
+# stack, addresses that nobody can guess, and tables of functions that nobody can write to. See SECURITY.md.
+add_library(kav_hardening INTERFACE)
+set(kav_release $<AND:$<CONFIG:Release>,$<BOOL:${KAV_HARDEN}>>)
+target_compile_options(
+  kav_hardening INTERFACE $<${kav_release}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-D_GLIBCXX_ASSERTIONS;-fPIE;-fstack-protector-strong>)
+target_link_options(kav_hardening INTERFACE $<${kav_release}:-pie;LINKER:-z,relro,-z,now>)
+
 # What the second build of every room gets besides, where there is one. Its code is less optimised: the sanitizers' reports
 # are of use only where they can be read.
 add_library(kav_sanitizers INTERFACE)

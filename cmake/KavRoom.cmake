@@ -18,7 +18,7 @@ if(KAV_TESTS)
   kav_precompiled(kav_precompiled_tests PrecompiledTests.h OPTIONS ${kav_test_options} USES GTest::gmock)
 endif()
 if(KAV_PRECOMPILE_ROOMS)
-  kav_precompiled(kav_precompiled_rooms Precompiled.h)
+  kav_precompiled(kav_precompiled_rooms Precompiled.h USES kav_hardening)
 endif()
 if(KAV_SANITIZE)
   kav_precompiled(kav_precompiled_sanitized Precompiled.h USES kav_sanitizers)
@@ -78,7 +78,7 @@ macro(kav_library target)
   target_link_libraries(
     ${target}
     PUBLIC ${ARGN}
-    PRIVATE kav_options ${room_INSIDE})
+    PRIVATE kav_options kav_hardening ${room_INSIDE})
 endmacro()
 
 # kav_sanitized(OUT library...): the same libraries, the rooms among them as they are built with the sanitizers.
@@ -108,7 +108,7 @@ endfunction()
 
 macro(kav_executable target under)
   add_executable(${target} ${program_SOURCES})
-  target_link_libraries(${target} PRIVATE ${ARGN} kav_options)
+  target_link_libraries(${target} PRIVATE ${ARGN} kav_options kav_hardening)
   set(place ${PROJECT_BINARY_DIR}/${under})
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${name} RUNTIME_OUTPUT_DIRECTORY ${place}/bin)
   file(MAKE_DIRECTORY ${place}/share)
