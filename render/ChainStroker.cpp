@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace render
 {
@@ -35,7 +36,7 @@ ChainStroker::ChainStroker(wxDC& dc)
 
 void ChainStroker::operator()(geo::Pixel from, geo::Pixel to)
 {
-    if (MissesPicture(from, to))
+    if (m_isCovered || MissesPicture(from, to))
         return;
     const int direction = (to.y > from.y) - (to.y < from.y);
     if (!Continues(from, direction))
@@ -44,6 +45,7 @@ void ChainStroker::operator()(geo::Pixel from, geo::Pixel to)
         Add(from);
     }
     Add(to);
+    m_isCovered = CoversPicture(to);
     if (direction != 0)
         m_direction = direction;
 }
@@ -52,6 +54,15 @@ bool ChainStroker::MissesPicture(geo::Pixel from, geo::Pixel to) const
 {
     return std::max(from.x, to.x) < -m_reach || std::max(from.y, to.y) < -m_reach ||
            std::min(from.x, to.x) > m_size.x + m_reach || std::min(from.y, to.y) > m_size.y + m_reach;
+}
+
+bool ChainStroker::CoversPicture(geo::Pixel point) const
+{
+    // The toolkit draws circles as polygons, up to 0.1 pixels inside.
+    const double radius = m_reach / 2.0 - 2;
+    const double farthestX = std::max(std::abs(point.x), std::abs(m_size.x - point.x));
+    const double farthestY = std::max(std::abs(point.y), std::abs(m_size.y - point.y));
+    return radius > 0 && farthestX * farthestX + farthestY * farthestY < radius * radius;
 }
 
 bool ChainStroker::Continues(geo::Pixel from, int direction) const

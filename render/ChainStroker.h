@@ -16,7 +16,8 @@ namespace render
  *
  * Strokes without smoothing close gaps of one pixel between parts of one path that lie side by side. Therefore a path
  * is only made of segments that join and never turn back in y: there each row of pixels is crossed once. Pens whose
- * bends would lose pixels draw one by one. Segments that cannot touch the picture are left out.
+ * bends would lose pixels draw one by one. Segments that cannot touch the picture are left out, and so is everything
+ * after a segment that a wide pen makes as large as the picture.
  *
  * The last segments reach the picture when this object goes.
  */
@@ -37,6 +38,7 @@ private:
     static constexpr std::size_t kOneSegment = 2;
 
     bool MissesPicture(geo::Pixel from, geo::Pixel to) const;
+    bool CoversPicture(geo::Pixel point) const;
     bool Continues(geo::Pixel from, int direction) const;
     void Add(geo::Pixel point);
     void Stroke();
@@ -45,6 +47,7 @@ private:
     int m_reach;           ///< how far the pen marks the surroundings of a segment, at most
     std::size_t m_longest; ///< points of a path
     wxSize m_size;
+    bool m_isCovered = false; ///< the whole picture, by what was added
     std::array<wxPoint2DDouble, kMaxPoints> m_points;
     std::size_t m_count = 0;
     geo::Pixel m_last{};

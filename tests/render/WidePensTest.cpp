@@ -28,14 +28,14 @@ protected:
 
     /// @param[in] trace gets a context and what draws a line on it.
     template <class DrawLayer, class Trace>
-    static void ExpectSingleLines(DrawLayer drawLayer, Trace trace)
+    static void ExpectSingleLines(DrawLayer drawLayer, Trace trace, int narrowest = 0, int widest = 20, int step = 1)
     {
         const auto drawLines = [&](wxDC& dc)
         {
             auto line = [&dc](geo::Pixel from, geo::Pixel to) { dc.DrawLine(from.x, from.y, to.x, to.y); };
             trace(dc, line);
         };
-        for (int width = 0; width <= 20; ++width)
+        for (int width = narrowest; width <= widest; width += step)
         {
             const wxImage layer = Picture(drawLayer, width);
             const wxImage lines = Picture(drawLines, width);
@@ -77,6 +77,21 @@ TEST_F(WidePensTest, DrawRadialsLikeSingleLines)
                           for (int degree = 0; degree < 360; degree += 5)
                               line({disc.centre, disc.centre}, disc.At(degree, disc.radius));
                       });
+}
+
+/// Around the width from which on a single line covers the picture, and up to the widest that there is.
+TEST_F(WidePensTest, CoverThePictureLikeSingleLines)
+{
+    const MapView view = View();
+    const render::DiscGeometry disc(view.frame);
+    const auto draw = [&](wxDC& dc) { render::DrawRadials(dc, view, 4); };
+    const auto trace = [&](wxDC&, auto& line)
+    {
+        for (int degree = 0; degree < 360; degree += 45)
+            line({disc.centre, disc.centre}, disc.At(degree, disc.radius));
+    };
+    ExpectSingleLines(draw, trace, 300, 1300, 25);
+    ExpectSingleLines(draw, trace, 8000, 8000);
 }
 
 TEST_F(WidePensTest, DrawTheCompassLikeSingleLines)
