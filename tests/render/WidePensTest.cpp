@@ -1,4 +1,5 @@
 #include "render/BorderLines.h"
+#include "render/ChainStroker.h"
 #include "render/Compass.h"
 #include "render/DiscDrawing.h"
 #include "render/DiscGeometry.h"
@@ -79,19 +80,21 @@ TEST_F(WidePensTest, DrawRadialsLikeSingleLines)
                       });
 }
 
-/// Around the width from which on a single line covers the picture, and up to the widest that there is.
+/// Around the width from which on a line in a corner covers the picture, and up to the widest that there is.
 TEST_F(WidePensTest, CoverThePictureLikeSingleLines)
 {
-    const MapView view = View();
-    const render::DiscGeometry disc(view.frame);
-    const auto draw = [&](wxDC& dc) { render::DrawRadials(dc, view, 4); };
-    const auto trace = [&](wxDC&, auto& line)
+    const auto trace = [](wxDC&, auto& line)
     {
-        for (int degree = 0; degree < 360; degree += 45)
-            line({disc.centre, disc.centre}, disc.At(degree, disc.radius));
+        line({0, 0}, {10, 0});
+        line({kSide - 1, kSide - 1}, {kSide - 1, kSide - 10});
     };
-    ExpectSingleLines(draw, trace, 300, 1300, 25);
-    ExpectSingleLines(draw, trace, 8000, 8000);
+    const auto draw = [&](wxDC& dc)
+    {
+        render::ChainStroker lines(dc);
+        trace(dc, lines);
+    };
+    ExpectSingleLines(draw, trace, 1100, 1300, 5);
+    ExpectSingleLines(draw, trace, render::kMaxMapSize, render::kMaxMapSize);
 }
 
 TEST_F(WidePensTest, DrawTheCompassLikeSingleLines)
