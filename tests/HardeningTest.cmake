@@ -1,5 +1,6 @@
 # A release is compiled and linked with every guard that SECURITY.md names: all sources of all rooms, and the program.
 cmake_policy(VERSION 3.24)
+set(WORK_DIR ${BUILD_DIR}/release-test)
 file(REMOVE_RECURSE ${WORK_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} -G Ninja -DCMAKE_BUILD_TYPE=Release -S ${SOURCE_DIR} -B ${WORK_DIR}
                 OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
