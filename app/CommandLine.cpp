@@ -81,8 +81,9 @@ CommandLine Done(int status)
     return line;
 }
 
-/// No file of settings comes near it; a file without end would fill the memory.
-constexpr std::uintmax_t kMostSettings = std::uintmax_t{16} << 20;
+/// No file of settings comes near it. The toolkit takes a time for many keys that grows with the square of their
+/// number: here it remains below some seconds.
+constexpr std::uintmax_t kMostSettings = std::uintmax_t{1} << 20;
 
 /// Why a settings file can't be read; none if it can. The empty device stands for a file without settings.
 const char* ObstacleTo(const std::string& path)
@@ -95,7 +96,7 @@ const char* ObstacleTo(const std::string& path)
         return obstacle;
     std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
-    return !error && size > kMostSettings ? "it is longer than 16 MB" : nullptr;
+    return !error && size > kMostSettings ? "it is longer than 1 MB" : nullptr;
 }
 
 /// A whole number of seconds, at least one; none for anything else.

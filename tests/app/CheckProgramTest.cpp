@@ -75,7 +75,7 @@ TEST_F(CheckProgramTest, RefusesWhatIsNoSettingsFile)
     ASSERT_EQ(mkfifo("pipe", 0600), 0);
     for (const auto& [name, why] : {std::pair{"empty", "it is empty"},
                                     {"binary", "it is no text"},
-                                    {"huge", "it is longer than 16 MB"},
+                                    {"huge", "it is longer than 1 MB"},
                                     {"pipe", "it is a pipe or a device"},
                                     {".", "it is a directory"},
                                     {"gone", "No such file or directory"}})
