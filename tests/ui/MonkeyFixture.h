@@ -226,7 +226,8 @@ private:
     /// Some actions more, and then Escape.
     void ActWhileVoacaplRuns()
     {
-        if (!Propagation::IsBusy() || m_isActing)
+        // The commands are off while the overlay is made.
+        if (frame->GetMenuBar()->IsEnabledTop(0) || m_isActing)
             return;
         m_isActing = true;
         if (chance.OneIn(3))

@@ -119,7 +119,6 @@ protected:
         for (const wxWindow* const top : wxTopLevelWindows)
             EXPECT_TRUE(top == frame || !top->IsShown()) << top->GetLabel();
         EXPECT_EQ(gtk_grab_get_current(), nullptr);
-        EXPECT_FALSE(Propagation::IsBusy());
         for (std::size_t menu = 0; menu < frame->GetMenuBar()->GetMenuCount(); ++menu)
             EXPECT_TRUE(frame->GetMenuBar()->IsEnabledTop(menu));
     }
