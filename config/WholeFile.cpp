@@ -53,7 +53,8 @@ private:
 
 wxString TextOf(ErrorNumber error)
 {
-    return error == 0 ? wxString("the toolkit can't encode it") : wxString(wxSysErrorMsgStr(error));
+    return error == 0 ? wxString("the toolkit can't encode it")
+                      : wxString(wxSysErrorMsgStr(static_cast<unsigned long>(error)));
 }
 
 /// Gives a complete file the place and the permissions of another that may be there.
