@@ -1,5 +1,6 @@
 #include "tests/support/TemporaryHome.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <wx/utils.h>
@@ -216,6 +217,8 @@ TEST(ProgramWindow, EndsWithItsDisplayAndLeavesNothingBehind)
     for (const auto& entry : std::filesystem::directory_iterator(home.Path("").utf8_string()))
         left.insert(entry.path().filename());
     EXPECT_EQ(left, (std::set<std::string>{".Kavdex", "number", "server.txt"}));
-    EXPECT_EQ(home.Read(".Kavdex"), "Size=123\n");
+    // Completed at the start, from its first key to its last.
+    EXPECT_THAT(home.Read(".Kavdex"),
+                testing::AllOf(testing::StartsWith("Size=123\n"), testing::EndsWith("[DefaultIniDir]\nIniDir=\n")));
 }
 } // namespace
