@@ -3,6 +3,7 @@
 #include "app/StandardStreams.h"
 #include "config/SpecialFile.h"
 #include "config/Version.h"
+#include "render/PictureFormats.h"
 
 #include <wx/chartype.h>
 #include <wx/version.h>
@@ -30,7 +31,7 @@ Draws azimuthal maps of the world as seen from a radio station.
       --version          print the version
   -s, --settings FILE    take the settings from FILE (an .ini file, only read)
   -r, --render PICTURE   create the map, write it to PICTURE and exit; the format
-                         goes by the ending: .png .jpg .bmp .pcx .pnm .tif
+                         goes by the ending:%s
   -t, --time TIME        draw for this UTC time, written YYYY-MM-DDTHH:MM
       --voacapl-timeout SECONDS
                          with --render: end voacapl when it takes longer (600)
@@ -73,6 +74,15 @@ constexpr option kOptions[] = {{"help", no_argument, nullptr, 'h'},
                                {"check", no_argument, nullptr, kCheckOption},
                                {"bearings", required_argument, nullptr, kBearingsOption},
                                {nullptr, 0, nullptr, 0}};
+
+/// Of the pictures that can be written, each after a space.
+std::string Endings()
+{
+    std::string endings;
+    for (const auto& format : render::kPictureFormats)
+        endings += std::string(" ") + format.ending;
+    return endings;
+}
 
 CommandLine Done(int status)
 {
@@ -157,7 +167,7 @@ CommandLine ParseCommandLine(int argc, char** argv)
         switch (option)
         {
         case 'h':
-            std::fputs(kHelp, stdout);
+            std::printf(kHelp, Endings().c_str());
             return Done(HasAnswerArrived() ? 0 : 1);
         case kVersionOption:
             std::printf("Kavmap " KAV_VERSION "\n%ls\n", wxVERSION_STRING);

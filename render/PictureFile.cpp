@@ -2,12 +2,10 @@
 
 #include "config/WholeFile.h"
 #include "render/Images.h"
+#include "render/PictureFormats.h"
 #include "render/RowFile.h"
 
 #include <wx/log.h>
-
-#include <array>
-#include <utility>
 
 namespace render
 {
@@ -29,14 +27,8 @@ bool Save(const wxString& path, const WriteFile& write)
 
 std::optional<wxBitmapType> PictureTypeOf(const wxString& path)
 {
-    static constexpr std::array<std::pair<const char*, wxBitmapType>, 6> kTypes{{{".png", wxBITMAP_TYPE_PNG},
-                                                                                 {".jpg", wxBITMAP_TYPE_JPEG},
-                                                                                 {".bmp", wxBITMAP_TYPE_BMP},
-                                                                                 {".pcx", wxBITMAP_TYPE_PCX},
-                                                                                 {".pnm", wxBITMAP_TYPE_PNM},
-                                                                                 {".tif", wxBITMAP_TYPE_TIFF}}};
     const wxString ending = path.Right(4).Lower();
-    for (const auto& [name, type] : kTypes)
+    for (const auto& [name, type] : kPictureFormats)
         if (ending == name)
             return type;
     return std::nullopt;

@@ -9,8 +9,8 @@
 
 namespace render
 {
-/// The format that the last four characters of a path name, in any case: .png .jpg .bmp .pcx .pnm .tif; none for any
-/// other ending (.jpeg and .tiff included).
+/// The format of kPictureFormats that the last four characters of a path name, in any case; none for any other ending
+/// (.jpeg and .tiff included).
 std::optional<wxBitmapType> PictureTypeOf(const wxString& path);
 
 /**

@@ -62,8 +62,8 @@ TEST_F(ScreenMapTest, IsShownInTheCornerWithWhiteBesideIt)
 {
     Canvas().SetBackgroundColour(*wxRED); // is not to be seen
     Create();
-    const wxSize room = Canvas().GetClientSize();
     EXPECT_TRUE(AwaitOnScreen({0, 0}, Seen()));
+    const wxSize room = Canvas().GetClientSize(); // the window manager has its say before
     const auto white = [](wxSize size)
     {
         return Colours(static_cast<std::size_t>(size.y),

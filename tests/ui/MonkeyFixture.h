@@ -223,11 +223,19 @@ private:
             gtk_menu_shell_deactivate(shell);
     }
 
+    /// The commands are off meanwhile. (Between two windows there is none.)
+    bool IsOverlayBeingMade() const
+    {
+        if (!wxTopLevelWindows.Find(frame))
+            return false;
+        const wxMenuBar* const bar = frame->GetMenuBar();
+        return bar && !bar->IsEnabledTop(0);
+    }
+
     /// Some actions more, and then Escape.
     void ActWhileVoacaplRuns()
     {
-        // The commands are off while the overlay is made.
-        if (frame->GetMenuBar()->IsEnabledTop(0) || m_isActing)
+        if (!IsOverlayBeingMade() || m_isActing)
             return;
         m_isActing = true;
         if (chance.OneIn(3))
