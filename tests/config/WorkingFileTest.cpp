@@ -295,4 +295,12 @@ TEST(WorkingFile, IsThereFromTheFirstStartOn)
     const Configuration settings("Kavdex");
     EXPECT_THAT(home.Read(".Kavdex"), HasSubstr("Size=900\n"));
 }
+
+TEST(ConfigFile, LosesAKeyThatIsRemovedOnTheDiskToo)
+{
+    const TemporaryHome home;
+    const wxString path = home.Write("some.ini", "Kept=1\nRemoved=2\n");
+    WholeFileConfig("", path, 0).DeleteEntry("Removed");
+    EXPECT_EQ(home.Read("some.ini"), "Kept=1\n");
+}
 } // namespace
