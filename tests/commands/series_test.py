@@ -16,7 +16,9 @@ STAND_IN = pathlib.Path(os.environ["KAV_STAND_IN_DIRECTORY"])
 SETTINGS = "Size=100\n[Compass]\nFontShow=0\n[Propagation]\nGrid=0\nDir={}\n"
 
 # In place of ssh: the first word that is no option names the machine, the rest is what it shall do.
+# It sets what every login sets: parallel asks for the shell there.
 FAR = """#!/bin/sh
+export SHELL=/bin/sh
 while [ "${1#-}" != "$1" ]; do case $1 in -[lpSo]) shift ;; esac; shift; done
 echo "$1" >>"$FAR_LOG"
 shift
@@ -118,6 +120,19 @@ class SeriesTest(command.CommandTest):
         self.series(*arguments)
         self.assertEqual(len(self.pictures()), 7)
         self.assertEqual(len((self.home / "ran").read_text().splitlines()), 7)
+
+    def test_leaves_nothing_when_interrupted_while_it_makes_or_removes_its_directory(self):
+        self.write("s.ini", "Size=100\n")
+        self.script("bin/mktemp", '#!/bin/sh\nmade=$(/usr/bin/mktemp "$@"); echo "$made" >>began\nsleep 0.3; echo "$made"\n')
+        self.script("bin/rm", '#!/bin/sh\nsleep 1.5; exec /bin/rm "$@"\n')
+        process = subprocess.Popen([command.BIN / "kavmap-series", "--out", "out", "--hours=0", "s.ini"], cwd=self.home,
+                                   env={**os.environ, "HOME": str(self.home), **self.environment,
+                                        "PATH": f"{self.home / 'bin'}:{os.environ['PATH']}"}, stderr=subprocess.DEVNULL)
+        while not (self.home / "began").exists():
+            time.sleep(0.01)
+        process.send_signal(signal.SIGTERM)
+        process.wait()
+        self.assertEqual(list((self.home / "tmp").iterdir()), [])
 
     def test_names_a_failed_picture_and_draws_the_others(self):
         failing = self.script("failing", '#!/bin/sh\n[ $4 = 2026-06-15T01:00 ] && { echo "kavmap: no ink" >&2; exit 2; }\n'
