@@ -1,5 +1,5 @@
 # Most of the time of a compilation goes into reading the headers of the toolkit and of the test library. Tests get them
-# read beforehand, and so do the rooms when they are compiled with the sanitizers: what a room includes is checked without.
+# read beforehand, and so may the rooms: what a room includes is checked where it does not.
 # Tests are not optimised: compiling them takes longer than running them.
 set(kav_test_options -O0)
 

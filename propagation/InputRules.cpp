@@ -14,7 +14,7 @@ namespace propagation
 namespace
 {
 using Keys = std::vector<const char*>;
-using Settings = PropagationSettings;
+using Inputs = PropagationSettings;
 
 constexpr std::size_t kLongestDirectory = 113;
 
@@ -26,7 +26,7 @@ struct NumberText
 };
 
 /// The user's own frequency counts only where it is chosen.
-std::vector<NumberText> NumbersOf(const Settings& p)
+std::vector<NumberText> NumbersOf(const Inputs& p)
 {
     std::vector<NumberText> numbers{{"MMN", p.manMadeNoise},
                                     {"MTA", p.minTakeOffAngle},
@@ -48,7 +48,7 @@ std::vector<NumberText> NumbersOf(const Settings& p)
 }
 
 template <class IsWrong>
-Keys NumbersThat(const Settings& p, IsWrong isWrong)
+Keys NumbersThat(const Inputs& p, IsWrong isWrong)
 {
     Keys keys;
     for (const NumberText& number : NumbersOf(p))
@@ -78,7 +78,7 @@ Keys KeyIf(bool misfits, const char* key)
 
 /// The two antennas: those whose file is wrong.
 template <class IsWrong>
-Keys AntennasThat(const Settings& p, IsWrong isWrong)
+Keys AntennasThat(const Inputs& p, IsWrong isWrong)
 {
     Keys keys;
     if (!p.transmitter.file.empty() && isWrong(p.transmitter.file))
@@ -110,43 +110,43 @@ constexpr char kDisturbs[] = "disturbs the fields after it";
 
 const InputRule kRules[] = {
     {"every number", "a decimal point", "a comma ends it: 14,2 counts as 14",
-     [](const Settings& p) { return NumbersThat(p, [](const wxString& text) { return text.Contains(","); }); }},
+     [](const Inputs& p) { return NumbersThat(p, [](const wxString& text) { return text.Contains(","); }); }},
     {"every number", "what begins with a number", "counts as 0",
-     [](const Settings& p) { return NumbersThat(p, [](const wxString& text) { return !BeginsWithNumber(text); }); }},
+     [](const Inputs& p) { return NumbersThat(p, [](const wxString& text) { return !BeginsWithNumber(text); }); }},
     {"SSN", "0 to 99", "the last digit is lost: 120 counts as 12",
-     [](const Settings& p) { return KeyIf(p.sunspotNumber < 0 || p.sunspotNumber > 99, "SSN"); }},
+     [](const Inputs& p) { return KeyIf(p.sunspotNumber < 0 || p.sunspotNumber > 99, "SSN"); }},
     {"Icepac/Voacap directory", "up to 113 characters", "leaves no result",
-     [](const Settings& p) { return KeyIf(std::string_view(p.directory.fn_str()).size() > kLongestDirectory, "Dir"); }},
+     [](const Inputs& p) { return KeyIf(std::string_view(p.directory.fn_str()).size() > kLongestDirectory, "Dir"); }},
     {"User Fq MHz", "above 0", "gives a result without the power",
-     [](const Settings& p) { return KeyIf(UsesOwnFrequency(p) && FrequencyMHz(p) <= 0, "UserFq"); }},
+     [](const Inputs& p) { return KeyIf(UsesOwnFrequency(p) && FrequencyMHz(p) <= 0, "UserFq"); }},
     {"User Fq MHz", "below 100", "the last digits are lost",
-     [](const Settings& p) { return KeyIf(UsesOwnFrequency(p) && IsWider(p.userFrequencyMHz, 3, 6), "UserFq"); }},
+     [](const Inputs& p) { return KeyIf(UsesOwnFrequency(p) && IsWider(p.userFrequencyMHz, 3, 6), "UserFq"); }},
     {"Man Made Noise", "0 to 999, without a minus sign", kDisturbs,
-     [](const Settings& p) { return KeyIf(NumberOf(p.manMadeNoise) < 0 || IsWider(p.manMadeNoise, 0, 3), "MMN"); }},
+     [](const Inputs& p) { return KeyIf(NumberOf(p.manMadeNoise) < 0 || IsWider(p.manMadeNoise, 0, 3), "MMN"); }},
     {"Minimum Takeoff Angle", "0 to 9.999", kDisturbs,
-     [](const Settings& p) { return KeyIf(IsWider(p.minTakeOffAngle, 3, 5), "MTA"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.minTakeOffAngle, 3, 5), "MTA"); }},
     {"Required Circuit Reliability", "0 to 99", kDisturbs,
-     [](const Settings& p) { return KeyIf(IsWider(p.requiredReliability, 0, 2), "RCR"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.requiredReliability, 0, 2), "RCR"); }},
     {"Required S/N Ratio", "-9 to 99", kDisturbs,
-     [](const Settings& p) { return KeyIf(IsWider(p.requiredSnr, 0, 2), "RSN"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.requiredSnr, 0, 2), "RSN"); }},
     {"Multipath Pwr Tolerance", "0 to 9.999", kDisturbs,
-     [](const Settings& p) { return KeyIf(IsWider(p.multipathPowerTolerance, 3, 5), "MPT"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.multipathPowerTolerance, 3, 5), "MPT"); }},
     {"Max Tolerable Multipath Delay", "0 to 9.999", "the last digits are lost",
-     [](const Settings& p) { return KeyIf(IsWider(p.maxMultipathDelay, 3, 5), "MTM"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.maxMultipathDelay, 3, 5), "MTM"); }},
     {"transmitter's gain", "0 to 9.999", "disturbs the direction",
-     [](const Settings& p) { return KeyIf(IsWider(p.transmitter.gain, 3, 5), "TxGain"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.transmitter.gain, 3, 5), "TxGain"); }},
     {"transmitter's direction", "-99.9 to 999.9", "disturbs the power",
-     [](const Settings& p) { return KeyIf(IsWider(p.transmitter.directionDeg, 1, 5), "Tx1Dir"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.transmitter.directionDeg, 1, 5), "Tx1Dir"); }},
     {"receiver's gain", "0 to 9.9", "disturbs the direction",
-     [](const Settings& p) { return KeyIf(IsWider(p.receiver.gain, 1, 3), "RxGain"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.receiver.gain, 1, 3), "RxGain"); }},
     {"receiver's direction", "-9.9 to 99.9", "read as a tenth: 270 counts as 27",
-     [](const Settings& p) { return KeyIf(IsWider(p.receiver.directionDeg, 1, 4), "Rx1Dir"); }},
+     [](const Inputs& p) { return KeyIf(IsWider(p.receiver.directionDeg, 1, 4), "Rx1Dir"); }},
     {"antenna file", "a path of seven or eight parts", "counts as none, isotropic",
-     [](const Settings& p) { return AntennasThat(p, CountsAsNone); }},
+     [](const Inputs& p) { return AntennasThat(p, CountsAsNone); }},
     {"antenna file", "names of 8 and 12 characters", "refused",
-     [](const Settings& p) { return AntennasThat(p, IsRefused); }},
+     [](const Inputs& p) { return AntennasThat(p, IsRefused); }},
     {"antenna file", "one below antennas in the directory", "leaves no result",
-     [](const Settings& p)
+     [](const Inputs& p)
      {
          return AntennasThat(p,
                              [&p](const wxString& antenna)
@@ -156,7 +156,7 @@ const InputRule kRules[] = {
                              });
      }},
     {"layer multipliers", "0 to 9.99", "disturbs those after it",
-     [](const Settings& p)
+     [](const Inputs& p)
      {
          static constexpr const char* kNames[] = {"Fo1", "Fo2", "Fo3", "Fo4"};
          Keys keys;

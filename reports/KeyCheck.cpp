@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string>
+#include <string_view>
 
 namespace reports
 {
@@ -51,7 +53,7 @@ wxString Trouble(wxConfigBase&, const wxString&, bool, const wxString&)
 }
 
 /// Letters that have to be changed, added or left out to make one text of the other.
-std::size_t EditDistance(const wxString& from, const wxString& to)
+std::size_t EditDistance(std::wstring_view from, std::wstring_view to)
 {
     std::vector<std::size_t> row(to.length() + 1);
     std::iota(row.begin(), row.end(), 0U);
@@ -79,10 +81,22 @@ std::vector<wxString> KnownKeys()
 /// The known key that is most like another one; empty where none is.
 wxString Nearest(const wxString& unknown, const std::vector<wxString>& known)
 {
-    const wxString lower = unknown.Lower();
-    const auto distance = [&lower](const wxString& key) { return EditDistance(lower, key.Lower()); };
-    const wxString nearest = *std::ranges::min_element(known, {}, distance);
-    return distance(nearest) <= std::max<std::size_t>(2, lower.length() / 3) ? nearest : wxString();
+    const std::wstring lower = unknown.Lower().ToStdWstring();
+    std::size_t tooFar = std::max<std::size_t>(2, lower.length() / 3) + 1;
+    wxString nearest;
+    for (const wxString& key : known)
+    {
+        const std::size_t longest = std::max(key.length(), lower.length());
+        if (longest - std::min(key.length(), lower.length()) >= tooFar)
+            continue; // by its length alone; unknown keys may be as long as a file
+        const std::size_t distance = EditDistance(lower, key.Lower().ToStdWstring());
+        if (distance < tooFar)
+        {
+            tooFar = distance;
+            nearest = key;
+        }
+    }
+    return nearest;
 }
 
 /// Calls visit(key) for every key of a file, with its group.

@@ -55,6 +55,15 @@ class SeriesTest(command.CommandTest):
         self.assertEqual(list((self.home / "tmp").iterdir()), [])
         return done
 
+    def start(self, *arguments):
+        """As series(), in the background; programs in bin come first."""
+        path = f"{self.home / 'bin'}:{self.environment['PATH']}"
+        process = subprocess.Popen([command.BIN / "kavmap-series", "--out", "out", *arguments, "s.ini"], cwd=self.home,
+                                   env={**os.environ, "HOME": str(self.home), **self.environment, "PATH": path},
+                                   stderr=subprocess.PIPE, text=True)
+        self.addCleanup(process.stderr.close)
+        return process
+
     def pictures(self):
         return sorted(path.name for path in (self.home / "out").glob("*.png"))
 
@@ -100,9 +109,7 @@ class SeriesTest(command.CommandTest):
                                    'echo "$4" >>ran\nprintf picture >"$6"\n')
         self.write("s.ini", "Size=100\n")
         arguments = ("--hours=0-6", "--jobs=4", f"--kavmap={slow}")
-        process = subprocess.Popen([command.BIN / "kavmap-series", "--out", "out", *arguments, "s.ini"], cwd=self.home,
-                                   env={**os.environ, "HOME": str(self.home), **self.environment},
-                                   stderr=subprocess.PIPE, text=True)
+        process = self.start(*arguments)
         for _ in range(600):
             if (self.home / "out").is_dir() and len(self.pictures()) == 3:
                 break
@@ -125,14 +132,24 @@ class SeriesTest(command.CommandTest):
         self.write("s.ini", "Size=100\n")
         self.script("bin/mktemp", '#!/bin/sh\nmade=$(/usr/bin/mktemp "$@"); echo "$made" >>began\nsleep 0.3; echo "$made"\n')
         self.script("bin/rm", '#!/bin/sh\nsleep 1.5; exec /bin/rm "$@"\n')
-        process = subprocess.Popen([command.BIN / "kavmap-series", "--out", "out", "--hours=0", "s.ini"], cwd=self.home,
-                                   env={**os.environ, "HOME": str(self.home), **self.environment,
-                                        "PATH": f"{self.home / 'bin'}:{os.environ['PATH']}"}, stderr=subprocess.DEVNULL)
+        process = self.start("--hours=0")
         while not (self.home / "began").exists():
             time.sleep(0.01)
         process.send_signal(signal.SIGTERM)
         process.wait()
         self.assertEqual(list((self.home / "tmp").iterdir()), [])
+
+    def test_ends_what_parallel_leaves_behind_when_interrupted(self):
+        self.write("s.ini", "Size=100\n")
+        self.script("bin/parallel", '#!/bin/sh\n[ "$1" != --version ] || exec echo GNU parallel\n'
+                                    'setsid sh -c \'echo $$ >left; sleep 1000 & wait\' &\nwait\n')
+        process = self.start("--hours=0")
+        left = self.home / "left"
+        while not left.exists() or not left.read_text().endswith("\n"):
+            time.sleep(0.01)
+        process.send_signal(signal.SIGTERM)
+        process.wait()
+        self.assertRaises(ProcessLookupError, os.killpg, int(left.read_text()), 0)
 
     def test_names_a_failed_picture_and_draws_the_others(self):
         failing = self.script("failing", '#!/bin/sh\n[ $4 = 2026-06-15T01:00 ] && { echo "kavmap: no ink" >&2; exit 2; }\n'

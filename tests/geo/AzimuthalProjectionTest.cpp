@@ -1,5 +1,6 @@
 #include "geo/AzimuthalProjection.h"
 #include "geo/Angles.h"
+#include "tests/geo/Centred.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +12,6 @@ namespace
 {
 constexpr double kPi = geo::kPi;
 constexpr double kDegrees = 180.0 / kPi;
-
-AzimuthalProjection Centred(double latDeg, double lonDeg)
-{
-    AzimuthalProjection projection;
-    projection.Init(0, 0, latDeg, lonDeg);
-    return projection;
-}
 
 struct Position
 {

@@ -6,7 +6,6 @@
 
 namespace
 {
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 geo::LatLonRad Degrees(double lat, double lon)
 {
@@ -129,7 +128,7 @@ TEST(GreylineShade, HasAnAnswerForEveryWidth)
     shade.widthDeg = 0.0;
     EXPECT_EQ(LevelAt(shade, 89.0), 255);
     EXPECT_EQ(LevelAt(shade, 91.0), 76);
-    shade.widthDeg = kNan;
+    shade.widthDeg = std::nan("");
     EXPECT_EQ(LevelAt(shade, 10.0), 76);
     shade.widthDeg = 400.0;
     shade.gradient = false;
@@ -186,11 +185,11 @@ TEST(GreylineRows, GiveTheLevelsOfThePlainLoopNearlyAtAPole)
 TEST(GreylineRows, GoThePlainWayWithoutACentreOrASun)
 {
     AzimuthalProjection projection;
-    projection.Init(0, 0, kNan, 20.0);
+    projection.Init(0, 0, std::nan(""), 20.0);
     const MapFrame frame(200, 20000000, 1);
     ExpectRowsLikeThePlainLoop({projection, frame, 20000000}, Default(), {100, 7});
     projection.Init(0, 0, 10.0, 20.0);
-    for (const double angle : {kNan, std::numeric_limits<double>::infinity(), 1e9})
+    for (const double angle : {std::nan(""), std::numeric_limits<double>::infinity(), 1e9})
     {
         geo::GreylineShade shade = Default();
         shade.sun = {0.1, angle};

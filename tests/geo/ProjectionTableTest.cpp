@@ -1,5 +1,6 @@
 #include "geo/Angles.h"
 #include "geo/AzimuthalProjection.h"
+#include "tests/geo/Centred.h"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +11,6 @@
 namespace
 {
 constexpr double kRadius = AzimuthalProjection::kEarthRadius;
-
-AzimuthalProjection Centred(double latDeg, double lonDeg)
-{
-    AzimuthalProjection projection;
-    projection.Init(0, 0, latDeg, lonDeg);
-    return projection;
-}
 
 // Worked out beforehand in the same steps by another program. Only additions and multiplications: exactly equal.
 TEST(AdjustLonTable, HasEveryStepForHugeAngles)

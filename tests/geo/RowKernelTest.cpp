@@ -4,6 +4,7 @@
 #include "geo/RowMath.h"
 #include "geo/RowSampler.h"
 
+#include "tests/geo/Centred.h"
 #include "tests/geo/RandomMaps.h"
 #include "tests/geo/TruePlace.h"
 
@@ -143,7 +144,7 @@ TEST(RowKernel, KnowsTheCellOfEveryPlaceThatIsFarEnoughFromItsEdge)
     EXPECT_GT(answers, 10000);
 }
 
-geo::LatLonRad RandomSun(RandomMaps& random, const AzimuthalProjection& projection)
+geo::LatLonRad SunAnywhere(RandomMaps& random, const AzimuthalProjection& projection)
 {
     return random.Often() ? geo::LatLonRad{random.Real(-1.5, 1.5), random.Real(-geo::kPi, geo::kPi)}
                           : geo::LatLonRad{projection.centreLat, projection.centreLon};
@@ -167,7 +168,7 @@ TEST(RowKernel, KnowsTheLevelOfTheGradientWhereItIsFarEnoughFromTheNext)
         const Asked asked = RandomColumns(random);
         if (asked.disc.projection.IsPolar())
             continue;
-        const geo::LatLonRad sun = RandomSun(random, asked.disc.projection);
+        const geo::LatLonRad sun = SunAnywhere(random, asked.disc.projection);
         geo::GreyBands bands{};
         bands.sinHalfWidth = 2.0; // all is greyzone
         bands.gradient = true;
@@ -212,7 +213,7 @@ TEST(RowKernel, KnowsTheBandOfEveryPlaceThatIsFarEnoughFromItsEdge)
         if (asked.disc.projection.IsPolar())
             continue;
         asked.count = 1;
-        const geo::LatLonRad sun = RandomSun(random, asked.disc.projection);
+        const geo::LatLonRad sun = SunAnywhere(random, asked.disc.projection);
         const int side = random.OneOf({1, -1});
         const double cosine = static_cast<double>(CosineOfSun(sun, asked.disc.projection, PlaceAt(asked, 0), side));
         const double away = random.OneOf({0.0, 0.9e-8, -0.9e-8, 1.1e-8, -1.1e-8, 1e-3, -1e-3});
@@ -235,13 +236,6 @@ TEST(RowKernel, KnowsTheBandOfEveryPlaceThatIsFarEnoughFromItsEdge)
                 << asked.disc << ", row " << asked.row << ", away " << away;
         }
     }
-}
-
-AzimuthalProjection Centred(double lat, double lon)
-{
-    AzimuthalProjection projection;
-    projection.Init(0, 0, lat, lon);
-    return projection;
 }
 
 geo::MapDisc Disc()

@@ -1,5 +1,6 @@
 #include "geo/RowSampler.h"
 
+#include "tests/geo/Centred.h"
 #include "tests/geo/RandomMaps.h"
 
 #include <gtest/gtest.h>
@@ -71,13 +72,6 @@ void ExpectRowsLikeThePlainLoop(const geo::MapDisc& disc, const geo::WorldCells&
                                   << expected[static_cast<std::size_t>(column)];
         }
     }
-}
-
-AzimuthalProjection Centred(double lat, double lon)
-{
-    AzimuthalProjection projection;
-    projection.Init(0, 0, lat, lon);
-    return projection;
 }
 
 TEST(WorldCells, GivesThePixelUnderAPosition)

@@ -1,5 +1,7 @@
 #include "geo/WorldFile.h"
 
+#include "tests/geo/Centred.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,13 +12,6 @@
 namespace
 {
 using testing::HasSubstr;
-
-AzimuthalProjection Centred(double lat, double lon)
-{
-    AzimuthalProjection projection;
-    projection.Init(0, 0, lat, lon);
-    return projection;
-}
 
 TEST(WorldFile, HasSixLines)
 {

@@ -5,6 +5,7 @@
 #include "maker/MapMaker.h"
 #include "propagation/AreaInput.h"
 #include "render/MapRows.h"
+#include "tests/support/HeldClock.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -61,9 +62,6 @@ std::vector<std::string> Groups()
 class HostileSettingsTest : public testing::TestWithParam<std::string>, protected MapListener
 {
 protected:
-    HostileSettingsTest() : m_clockBefore(SetClock([]() -> std::time_t { return kNoon; })) {}
-    ~HostileSettingsTest() override { SetClock(m_clockBefore); }
-
     void OnStep(const wxString&) override {}
     void OnError(const wxString&) override { ++errors; }
 
@@ -184,7 +182,7 @@ protected:
     int errors = 0;
 
 private:
-    const Clock m_clockBefore;
+    HeldClock m_clock{kNoon};
     const wxString m_borders = home.Write("lines.pnt", std::string("\xe9\x03\0\0\0\0\x01\0\x88\x13\x10\x0e", 12));
     const wxString m_labels = home.Write("labels.dat", "1;Here;City;DK;55;12\n2;There;City;DK;57;12\n");
     const wxString m_world = home.Write("world.pnm", "P6\n4 2\n255\n" + std::string(24, '\x55'));

@@ -4,6 +4,7 @@
 #include "render/Images.h"
 #include "render/Layer.h"
 #include "render/MapPicture.h"
+#include "tests/render/RandomRows.h"
 #include "tests/support/Pictures.h"
 
 #include <gtest/gtest.h>
@@ -16,30 +17,6 @@
 namespace
 {
 using render::Argb;
-
-/// A picture of opaque or see-through pixels of any colours.
-class Random : public render::PictureRows
-{
-public:
-    Random(int side, unsigned seed, bool opaque) : m_side(side), m_seed(seed), m_opaque(opaque) {}
-    int Side() const override { return m_side; }
-    void Row(int y, std::span<Argb> out) const override
-    {
-        std::mt19937 random(m_seed + static_cast<unsigned>(y));
-        for (Argb& pixel : out)
-        {
-            const auto value = static_cast<Argb>(random());
-            pixel = m_opaque
-                        ? 0xFF000000U | value
-                        : render::PremultipliedPixel((value >> 16) & 255, (value >> 8) & 255, value & 255, value >> 24);
-        }
-    }
-
-private:
-    int m_side;
-    unsigned m_seed;
-    bool m_opaque;
-};
 
 TEST(PixelOver, IsWhatTheToolkitDraws)
 {
@@ -88,7 +65,7 @@ protected:
     void PutBase(unsigned seed)
     {
         for (MapSurface* const map : Both())
-            map->PutBase(std::make_unique<Random>(rows.Side(), seed, true), [](int) {});
+            map->PutBase(std::make_unique<RandomRows>(rows.Side(), seed, true), [](int) {});
     }
 
     /// Lines, circles and texts that reach beyond the picture.
@@ -152,9 +129,9 @@ TEST_F(MapRowsTest, HaveThePixelsOfTheBitmaps)
         for (MapSurface* const map : Both())
         {
             if (round % 3 > 0)
-                map->PutGreyline(std::make_unique<Random>(rows.Side(), round + 100, false));
+                map->PutGreyline(std::make_unique<RandomRows>(rows.Side(), round + 100, false));
             if (round % 4 > 0)
-                map->PutPropagation(std::make_unique<Random>(rows.Side(), round + 200, false));
+                map->PutPropagation(std::make_unique<RandomRows>(rows.Side(), round + 200, false));
         }
         for (const bool shown : {true, false})
         {
@@ -184,8 +161,8 @@ TEST_F(MapRowsTest, ForgetTheMapBeforeThem)
     PutLayer(5, 200, render::Inks::One);
     for (MapSurface* const map : Both())
     {
-        map->PutGreyline(std::make_unique<Random>(60, 3, false));
-        map->PutPropagation(std::make_unique<Random>(60, 4, false));
+        map->PutGreyline(std::make_unique<RandomRows>(60, 3, false));
+        map->PutPropagation(std::make_unique<RandomRows>(60, 4, false));
     }
     Begin(70);
     for (MapSurface* const map : Both())

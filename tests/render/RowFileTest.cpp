@@ -1,6 +1,7 @@
 #include "render/RowFile.h"
 
 #include "render/Images.h"
+#include "tests/render/RandomRows.h"
 
 #include <gtest/gtest.h>
 
@@ -11,23 +12,6 @@
 
 namespace
 {
-/// A picture of any colours.
-class Random : public render::PictureRows
-{
-public:
-    explicit Random(int side) : m_side(side) {}
-    int Side() const override { return m_side; }
-    void Row(int y, std::span<render::Argb> out) const override
-    {
-        std::mt19937 random(static_cast<unsigned>(y));
-        for (render::Argb& pixel : out)
-            pixel = 0xFF000000U | static_cast<render::Argb>(random());
-    }
-
-private:
-    int m_side;
-};
-
 std::string BytesOf(const wxMemoryOutputStream& stream)
 {
     std::string bytes(stream.GetSize(), '\0');
@@ -46,8 +30,8 @@ TEST(RowFile, IsByteForByteTheToolkitsFile)
         {
             wxMemoryOutputStream expected;
             wxMemoryOutputStream written;
-            ASSERT_TRUE(render::ImageOf(Random(side)).SaveFile(expected, type));
-            ASSERT_TRUE(render::WriteRows(written, Random(side), type));
+            ASSERT_TRUE(render::ImageOf(RandomRows(side)).SaveFile(expected, type));
+            ASSERT_TRUE(render::WriteRows(written, RandomRows(side), type));
             EXPECT_TRUE(BytesOf(written) == BytesOf(expected)) << type << ", " << side;
         }
 }
@@ -87,10 +71,10 @@ TEST(RowFile, EndsWithTheFirstWriteThatFails)
         for (const std::size_t room : {0U, 10U, 100U, 3 * 100 * 20U, 3 * 100 * 100U})
         {
             ShortStream stream(room);
-            EXPECT_FALSE(render::WriteRows(stream, Random(100), type));
+            EXPECT_FALSE(render::WriteRows(stream, RandomRows(100), type));
             const int calls = stream.calls;
             ShortStream endless(1 << 20);
-            EXPECT_TRUE(render::WriteRows(endless, Random(100), type));
+            EXPECT_TRUE(render::WriteRows(endless, RandomRows(100), type));
             EXPECT_LE(calls, endless.calls);
             EXPECT_EQ(calls == 1, room < 15);
         }

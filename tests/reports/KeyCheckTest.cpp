@@ -97,6 +97,11 @@ TEST_F(KeyCheckTest, NamesTheKeyNearestToAnUnknownOne)
     EXPECT_THAT(Keys("Sise=100\nsize=100\n[meridians]\nALPHA=3\nAlhpa=3\n[Kitchen]\nSink=1\n"),
                 ElementsAre("Sise: no such key, it is ignored: is it Size?", "Kitchen/Sink: no such key, it is ignored",
                             "meridians/Alhpa: no such key, it is ignored: is it Meridians/Alpha?"));
+    EXPECT_THAT(Keys("Size__=1\nSize___=1\nzz=1\n"),
+                ElementsAre("Size__: no such key, it is ignored: is it Size?", "Size___: no such key, it is ignored",
+                            "zz: no such key, it is ignored"));
+    const std::string endless(1'000'000, 'x');
+    EXPECT_THAT(Keys(endless + "=1\n"), ElementsAre(endless + ": no such key, it is ignored"));
 }
 
 TEST(CheckLines, NamesLinesThatSayNothing)

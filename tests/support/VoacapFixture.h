@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/FrameFixture.h"
+#include "tests/support/HeldClock.h"
 
 #include <wx/timer.h>
 
@@ -13,7 +14,6 @@ class VoacapFixture : public FrameFixture
 protected:
     void SetUp() override
     {
-        m_clockBefore = SetClock([] { return kTwelveThirtyOne; });
         wxGetEnv("PATH", &m_pathBefore);
         wxSetEnv("PATH", KAV_STAND_IN ":" + m_pathBefore);
         FrameFixture::SetUp();
@@ -27,7 +27,6 @@ protected:
         FrameFixture::TearDown();
         wxSetEnv("PATH", m_pathBefore);
         wxUnsetEnv("KAV_STAND_IN");
-        SetClock(m_clockBefore);
     }
 
     void Create() { ClickTool(ui::kIdCreate); }
@@ -65,7 +64,8 @@ protected:
 
     static constexpr std::time_t kTwelveThirtyOne = 1774009860; // 2026-03-20 12:31:00 UTC
 
+    HeldClock clock{kTwelveThirtyOne};
+
 private:
-    Clock m_clockBefore = nullptr;
     wxString m_pathBefore;
 };

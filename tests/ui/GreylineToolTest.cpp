@@ -1,4 +1,5 @@
 #include "tests/support/FrameFixture.h"
+#include "tests/support/HeldClock.h"
 #include "tests/support/ScarceMemory.h"
 
 #include <gmock/gmock.h>
@@ -14,22 +15,13 @@ using testing::Not;
 /// 2026-03-20 12:00:00 UTC: the hour angle at Greenwich is a little below 360 degrees.
 constexpr std::time_t kEquinoxNoon = 1774008000;
 
-std::time_t now;
-
 class GreylineToolTest : public FrameFixture
 {
 protected:
     void SetUp() override
     {
-        now = kEquinoxNoon;
-        m_clockBefore = SetClock([] { return now; });
         FrameFixture::SetUp();
         settings->greyzone.show = true;
-    }
-    void TearDown() override
-    {
-        FrameFixture::TearDown();
-        SetClock(m_clockBefore);
     }
 
     void Create() { ClickTool(ui::kIdCreate); }
@@ -53,8 +45,7 @@ protected:
     bool Shown() const { return frame->Picture().showGreyline; }
     bool Checked() const { return Tools().GetToolState(ui::kIdGreyline); }
 
-private:
-    Clock m_clockBefore = nullptr;
+    HeldClock clock{kEquinoxNoon};
 };
 
 TEST_F(GreylineToolTest, IsCheckedAndTheGreylineShownAfterCreation)
@@ -79,7 +70,7 @@ TEST_F(GreylineToolTest, OnlyTellsTheTimeWhileTheSunStaysInItsDegree)
 {
     Create();
     const wxBitmap* const drawn = Overlay();
-    now += 60;
+    clock.now += 60;
     Tick();
     EXPECT_TRUE(Status(1).StartsWith("2026-03-20 12:01 Z"));
     EXPECT_EQ(Overlay(), drawn);
@@ -90,7 +81,7 @@ TEST_F(GreylineToolTest, IsDrawnAgainWhenTheSunEntersAnotherDegree)
 {
     Create();
     wxBitmap before(*Overlay());
-    now += 300;
+    clock.now += 300;
     Tick();
     EXPECT_FALSE(Overlay()->IsSameAs(before));
     EXPECT_TRUE(Shown());
@@ -112,7 +103,7 @@ TEST_F(GreylineToolTest, StaysOffWhenTheClockTicks)
 {
     Create();
     Toggle(false);
-    now += 3600;
+    clock.now += 3600;
     Tick();
     EXPECT_FALSE(Shown());
     EXPECT_FALSE(Checked());
@@ -156,7 +147,7 @@ TEST_F(GreylineToolTest, BelongsToTheMapEvenIfTheSettingsHaveChanged)
     Create();
     settings->size = 500;
     settings->centreLat = -80;
-    now += 3600;
+    clock.now += 3600;
     Tick();
     EXPECT_EQ(Overlay()->GetSize(), wxSize(200, 200));
 }
@@ -208,7 +199,7 @@ TEST_F(GreylineToolTest, IsSavedAsItIsShown)
 TEST_F(GreylineToolTest, FollowsTheClockByItself)
 {
     Create();
-    now += 7200;
+    clock.now += 7200;
     EXPECT_TRUE(Await([this] { return Status(1).StartsWith("2026-03-20 14:00 Z"); })) << Status(1);
 }
 

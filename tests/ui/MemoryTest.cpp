@@ -1,5 +1,6 @@
 #include "tests/support/FrameFixture.h"
 #include "tests/support/HeapInUse.h"
+#include "tests/support/HeldClock.h"
 #include "tests/support/ScarceMemory.h"
 
 namespace
@@ -11,8 +12,6 @@ constexpr int kMapSize = 120;
 /// well.
 constexpr std::size_t kRoom = 1'000'000;
 
-std::time_t now;
-
 /// A window that is used for a long time.
 class MemoryTest : public FrameFixture
 {
@@ -21,25 +20,17 @@ protected:
     {
         if (UnderAddressSanitizer())
             GTEST_SKIP() << "once is enough: the heap's use is the same under AddressSanitizer";
-        now = 1774009837; // 2026-03-20 12:30:37 UTC
-        m_clockBefore = SetClock([] { return now; });
         FrameFixture::SetUp();
         settings->size = kMapSize;
         settings->greyzone.show = true;
         settings->greyzone.timeMode = kRealTime;
         settings->fields.show = settings->fields.text.show = true;
     }
-    void TearDown() override
-    {
-        FrameFixture::TearDown();
-        if (m_clockBefore)
-            SetClock(m_clockBefore);
-    }
 
     /// The greyline's timer fires after so many seconds.
     void TickAfter(int seconds)
     {
-        now += seconds;
+        m_clock.now += seconds;
         wxTimer timer(frame, ui::kIdGreylineTimer);
         wxTimerEvent event(timer);
         frame->GetEventHandler()->ProcessEvent(event);
@@ -62,7 +53,7 @@ protected:
     }
 
 private:
-    Clock m_clockBefore = nullptr;
+    HeldClock m_clock{1774009837}; // 2026-03-20 12:30:37 UTC
 };
 
 TEST_F(MemoryTest, IsThatOfTheTenthMapAfterAHundred)

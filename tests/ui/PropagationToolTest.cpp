@@ -1,5 +1,5 @@
-#include "tests/support/FrameFixture.h"
 #include "tests/support/Pictures.h"
+#include "tests/support/VoacapFixture.h"
 
 #include <gmock/gmock.h>
 
@@ -14,41 +14,11 @@ using testing::HasSubstr;
 
 constexpr std::time_t kTwelveThirty = 1774009800; // 2026-03-20 12:30:00 UTC
 
-std::time_t now;
-
-/// A main window with a data directory for voacapl and the stand-in of voacapl on the search path.
-class PropagationToolTest : public FrameFixture
+/// A main window with the stand-in of voacapl, in a minute in which a tick draws nothing anew.
+class PropagationToolTest : public VoacapFixture
 {
 protected:
-    void SetUp() override
-    {
-        now = kTwelveThirty;
-        m_clockBefore = SetClock([] { return now; });
-        wxGetEnv("PATH", &m_pathBefore);
-        wxSetEnv("PATH", KAV_STAND_IN ":" + m_pathBefore);
-        FrameFixture::SetUp();
-        std::filesystem::create_directories(home.Path("data/areadata/default").utf8_string());
-        settings->propagation.show = true;
-        settings->propagation.grid = 0;
-        settings->propagation.directory = home.Path("data");
-    }
-    void TearDown() override
-    {
-        FrameFixture::TearDown();
-        wxSetEnv("PATH", m_pathBefore);
-        wxUnsetEnv("KAV_STAND_IN");
-        SetClock(m_clockBefore);
-    }
-
-    void Create() { ClickTool(ui::kIdCreate); }
-
-    /// The propagation timer fires.
-    void Tick()
-    {
-        wxTimer timer(frame, ui::kIdPropagationTimer);
-        wxTimerEvent event(timer);
-        frame->GetEventHandler()->ProcessEvent(event);
-    }
+    PropagationToolTest() { clock.now = kTwelveThirty; }
 
     /// How often the stand-in was run.
     long Runs() const
@@ -58,10 +28,6 @@ protected:
     }
 
     bool Shown() const { return frame->Picture().showPropagation; }
-
-private:
-    Clock m_clockBefore = nullptr;
-    wxString m_pathBefore;
 };
 
 TEST_F(PropagationToolTest, DrawsTheOverlayWithTheMapAndEnablesItsTools)
@@ -116,12 +82,12 @@ TEST_F(PropagationToolTest, FollowsTheClockInTheMinuteAfterHalfPastOnly)
     Create();
     Tick();
     EXPECT_EQ(Runs(), 1);
-    now += 60;
+    clock.now += 60;
     Tick();
     EXPECT_EQ(Runs(), 2);
     Tick();
     EXPECT_EQ(Runs(), 3);
-    now += 60;
+    clock.now += 60;
     Tick();
     EXPECT_EQ(Runs(), 3);
 }
@@ -130,7 +96,7 @@ TEST_F(PropagationToolTest, StartsNoSecondRunWhileOneIsGoingOn)
 {
     Create();
     wxSetEnv("KAV_STAND_IN", "slow");
-    now += 60;
+    clock.now += 60;
     int handled = 0;
     frame->CallAfter(
         [&]

@@ -1,4 +1,5 @@
 #include "tests/support/FrameFixture.h"
+#include "tests/support/HeldClock.h"
 #include "ui/options/KavMapOptions.h"
 
 #include <gmock/gmock.h>
@@ -13,8 +14,6 @@ using testing::Gt;
 
 /// 2026-03-20 12:30:37 UTC.
 constexpr std::time_t kStart = 1774009837;
-
-std::time_t now;
 
 /// The main window with its timers in reach.
 class OpenFrame : public WxKavFrame
@@ -32,8 +31,6 @@ class TimersTest : public FrameFixture
 protected:
     void SetUp() override
     {
-        now = kStart;
-        m_clockBefore = SetClock([] { return now; });
         wxGetEnv("PATH", &m_pathBefore);
         wxSetEnv("PATH", KAV_STAND_IN ":" + m_pathBefore);
         auto fresh = std::make_unique<Configuration>("Kavdex");
@@ -52,7 +49,6 @@ protected:
         FrameFixture::TearDown();
         wxSetEnv("PATH", m_pathBefore);
         wxUnsetEnv("KAV_STAND_IN");
-        SetClock(m_clockBefore);
     }
 
     static int PeriodOf(const wxTimer& timer) { return timer.IsRunning() ? timer.GetInterval() : 0; }
@@ -99,8 +95,9 @@ protected:
 
     OpenFrame* open = nullptr;
 
+    HeldClock clock{kStart};
+
 private:
-    Clock m_clockBefore = nullptr;
     wxString m_pathBefore;
 };
 
@@ -283,7 +280,7 @@ TEST_F(TimersTest, LetVoacaplRunOnlyInTheMinuteAfterHalfPast)
     RecordSteps();
     for (int minute = 0; minute < 60; ++minute)
     {
-        now = kStart - 30 * 60 + minute * 60;
+        clock.now = kStart - 30 * 60 + minute * 60;
         const long before = Runs();
         Tick(102);
         EXPECT_EQ(Runs() - before, minute == 31) << minute;
@@ -302,7 +299,7 @@ TEST_F(TimersTest, DrawNothingWhileVoacaplRuns)
     frame->CallAfter(
         [&]
         {
-            now += 3600 + 60; // another degree, and minute 31
+            clock.now += 3600 + 60; // another degree, and minute 31
             RecordSteps();
             Tick(101);
             Tick(102);
