@@ -114,7 +114,7 @@ void Points(benchmark::State& state, int side)
     DrawLayer(state, side, [&](wxDC& dc, const MapView& view) { render::DrawBorderLines(dc, view, file.Name()); });
 }
 BENCHMARK_CAPTURE(Points, on_900_pixels, 900)->RangeMultiplier(4)->Range(4000, 256000)->Complexity(benchmark::oN);
-BENCHMARK_CAPTURE(Points, on_4000_pixels, 4000)->RangeMultiplier(4)->Range(4000, 64000)->Complexity(benchmark::oN);
+BENCHMARK_CAPTURE(Points, on_4000_pixels, 4000)->RangeMultiplier(4)->Range(4000, 1024000)->Complexity(benchmark::oN);
 
 void Squares(benchmark::State& state)
 {

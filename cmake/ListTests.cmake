@@ -9,7 +9,7 @@ endif()
 
 function(add_to_list name filter)
   file(APPEND ${LIST} "add_test([[${room}.${name}]] [[${PROGRAM}]] [[--gtest_filter=${filter}]])\n"
-                      "set_tests_properties([[${room}.${name}]] PROPERTIES LABELS ${LABEL} TIMEOUT 300 ${ARGN})\n")
+                      "set_tests_properties([[${room}.${name}]] PROPERTIES LABELS ${LABEL} TIMEOUT 1500 ${ARGN})\n")
 endfunction()
 
 file(WRITE ${LIST} "")

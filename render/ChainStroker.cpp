@@ -30,13 +30,14 @@ ChainStroker::ChainStroker(wxDC& dc)
     : m_dc(dc),
       m_reach(std::max(dc.GetPen().GetWidth(), 1)),
       m_longest(BendsLikeSingleSegments(m_reach) ? kMaxPoints : kOneSegment),
-      m_size(DrawableArea(dc).GetSize())
+      m_size(DrawableArea(dc).GetSize()),
+      m_marked(dc)
 {
 }
 
 void ChainStroker::operator()(geo::Pixel from, geo::Pixel to)
 {
-    if (m_isCovered || MissesPicture(from, to))
+    if (m_isCovered || MissesPicture(from, to) || MarksNothingNew(from, to))
         return;
     const int direction = (to.y > from.y) - (to.y < from.y);
     if (!Continues(from, direction))
@@ -54,6 +55,12 @@ bool ChainStroker::MissesPicture(geo::Pixel from, geo::Pixel to) const
 {
     return std::max(from.x, to.x) < -m_reach || std::max(from.y, to.y) < -m_reach ||
            std::min(from.x, to.x) > m_size.x + m_reach || std::min(from.y, to.y) > m_size.y + m_reach;
+}
+
+bool ChainStroker::MarksNothingNew(geo::Pixel from, geo::Pixel to)
+{
+    constexpr int kLong = 100; // pixels; drawing shorter ones costs no more than looking
+    return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y)) >= kLong && m_marked.HaveLine(from, to, m_reach);
 }
 
 bool ChainStroker::CoversPicture(geo::Pixel point) const

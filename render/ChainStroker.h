@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/MapFrame.h"
+#include "render/MarkedPixels.h"
 
 #include <wx/dc.h>
 #include <wx/geometry.h>
@@ -17,7 +18,7 @@ namespace render
  * Strokes without smoothing close gaps of one pixel between parts of one path that lie side by side. Therefore a path
  * is only made of segments that join and never turn back in y: there each row of pixels is crossed once. Pens whose
  * bends would lose pixels draw one by one. Segments that cannot touch the picture are left out, and so is everything
- * after a segment that a wide pen makes as large as the picture.
+ * after a segment that a wide pen makes as large as the picture. So are long ones that run over marked pixels alone.
  *
  * The last segments reach the picture when this object goes.
  */
@@ -38,6 +39,7 @@ private:
     static constexpr std::size_t kOneSegment = 2;
 
     bool MissesPicture(geo::Pixel from, geo::Pixel to) const;
+    bool MarksNothingNew(geo::Pixel from, geo::Pixel to);
     bool CoversPicture(geo::Pixel point) const;
     bool Continues(geo::Pixel from, int direction) const;
     void Add(geo::Pixel point);
@@ -47,6 +49,7 @@ private:
     int m_reach;           ///< how far the pen marks the surroundings of a segment, at most
     std::size_t m_longest; ///< points of a path
     wxSize m_size;
+    MarkedPixels m_marked;
     bool m_isCovered = false; ///< the whole picture, by what was added
     std::array<wxPoint2DDouble, kMaxPoints> m_points;
     std::size_t m_count = 0;

@@ -8,6 +8,7 @@
 #include "tests/support/LayerFixture.h"
 
 #include <algorithm>
+#include <random>
 
 namespace
 {
@@ -113,5 +114,37 @@ TEST_F(WidePensTest, DrawTheCompassLikeSingleLines)
                               line(tick.outer, tick.inner);
                           }
                       });
+}
+TEST_F(WidePensTest, DrawWhatIsNewOnACrowdedSheet)
+{
+    // Lines across the picture, the last of which find hardly a pixel that is not marked: in all directions, or so flat
+    // or steep that many lie on others.
+    std::mt19937 random{20261121};
+    const auto between = [&random](int least, int most) { return std::uniform_int_distribution(least, most)(random); };
+    for (const int spread : {0, 3, 300})
+        for (const int count : {30, 100, 300, 1000, 3000})
+        {
+            SCOPED_TRACE(testing::Message() << count << " lines, spread " << spread);
+            const auto traceWith = [&, seed = random()](auto& line)
+            {
+                random.seed(seed);
+                for (int i = 0; i < count; ++i)
+                {
+                    const geo::Pixel from{between(-20, 300), between(-10, 460)};
+                    const geo::Pixel to{from.x + between(100, 200), from.y + between(-spread, spread)};
+                    if (i % 2 == 0)
+                        line(from, to);
+                    else
+                        line({from.y, from.x}, {to.y, to.x});
+                }
+            };
+            ExpectSingleLines(
+                [&](wxDC& dc)
+                {
+                    render::ChainStroker line(dc);
+                    traceWith(line);
+                },
+                [&](wxDC&, auto& line) { traceWith(line); }, 1, 17, spread == 300 ? 1 : 4);
+        }
 }
 } // namespace
