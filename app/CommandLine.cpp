@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/StandardStreams.h"
-#include "config/SpecialFile.h"
+#include "config/SettingsFile.h"
 #include "config/Version.h"
 #include "render/PictureFormats.h"
 
@@ -11,7 +11,6 @@
 #include <cerrno>
 #include <charconv>
 #include <chrono>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -91,22 +90,14 @@ CommandLine Done(int status)
     return line;
 }
 
-/// No file of settings comes near it. The toolkit takes a time for many keys that grows with the square of their
-/// number: here it remains below some seconds.
-constexpr std::uintmax_t kMostSettings = std::uintmax_t{1} << 20;
-
 /// Why a settings file can't be read; none if it can. The empty device stands for a file without settings.
 const char* ObstacleTo(const std::string& path)
 {
     if (access(path.c_str(), R_OK) != 0)
         return std::strerror(errno);
-    if (path == "/dev/null")
-        return nullptr;
-    if (const char* const obstacle = SpecialFileAt(path.c_str()))
-        return obstacle;
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    return !error && size > kMostSettings ? "it is longer than 1 MB" : nullptr;
+    if (std::filesystem::is_directory(path))
+        return "it is a directory";
+    return ObstacleToSettings(path.c_str());
 }
 
 /// A whole number of seconds, at least one; none for anything else.

@@ -187,6 +187,6 @@ void UnknownKeys(benchmark::State& state, bool isChecked)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK_CAPTURE(UnknownKeys, loaded, false)->RangeMultiplier(4)->Range(1000, 256000)->Complexity(benchmark::oNLogN);
+BENCHMARK_CAPTURE(UnknownKeys, loaded, false)->RangeMultiplier(4)->Range(1000, 64000)->Complexity(benchmark::oNLogN);
 BENCHMARK_CAPTURE(UnknownKeys, checked, true)->RangeMultiplier(4)->Range(250, 16000)->Complexity(benchmark::oNLogN);
 } // namespace

@@ -88,7 +88,7 @@ protected:
     MapMaker maker{settings, picture, *this};
     std::vector<std::string> told;
     int asked = 0;
-    std::function<bool()> whileWaiting = [this] { return ++asked < 5; };
+    std::function<bool()> whileWaiting = [] { return true; };
 };
 
 TEST_F(MapMakerTest, TellsItsStepsInTheirOrder)
@@ -137,6 +137,7 @@ TEST_F(MapMakerTest, TellsTheSunsPlaceAndThatTheGreylineIsShown)
 
 TEST_F(MapMakerTest, AsksWhileVoacaplRunsAndEndsItWhenTold)
 {
+    whileWaiting = [this] { return ++asked < 5; };
     RunStandIn("hangs");
     EXPECT_EQ(asked, 5);
     EXPECT_THAT(told, AllOf(Contains("propagation begun"), Contains("propagation ended")));
@@ -155,11 +156,12 @@ TEST_F(MapMakerTest, HidesThePreviousOverlayWhenThereIsNoOther)
 {
     RunStandIn("");
     ASSERT_TRUE(picture.showPropagation);
-    for (const char* behaviour : {"fails", "no result", "hangs"})
+    for (const std::string behaviour : {"fails", "no result", "hangs"})
     {
+        whileWaiting = [&behaviour] { return behaviour != "hangs"; };
         const wxBitmap* const previous = picture.propagationBitmap.get();
         picture.showPropagation = true;
-        WithStandIn(behaviour, [this] { maker.DrawPropagation(true); });
+        WithStandIn(behaviour.c_str(), [this] { maker.DrawPropagation(true); });
         EXPECT_EQ(picture.propagationBitmap.get(), previous) << behaviour;
         EXPECT_FALSE(picture.showPropagation) << behaviour;
     }

@@ -209,6 +209,25 @@ TEST_F(OptionsFiles, AreNeitherLoadedFromNorSavedToAPipe)
     EXPECT_EQ(settings.size, 123);
     EXPECT_EQ(settings.lastIniDirectory, "");
 }
+
+TEST_F(OptionsFiles, AreNotLoadedWhenTheyAreLongerThanAMegabyte)
+{
+    const auto load = [this](std::size_t bytes)
+    {
+        const std::string wanted = "Size=321\n#";
+        wxLogBuffer log;
+        wxLog* const before = wxLog::SetActiveTarget(&log);
+        settings.size = 123;
+        Load(home.Write("long.ini", wanted + std::string(bytes - wanted.size(), 'x')));
+        wxLog::SetActiveTarget(before);
+        return std::pair(settings.size, log.GetBuffer());
+    };
+    EXPECT_EQ(load(1 << 20), std::pair(321L, wxString()));
+    const auto [size, said] = load((1 << 20) + 1);
+    EXPECT_EQ(size, 123);
+    EXPECT_TRUE(said.Contains("it is longer than 1 MB")) << said;
+}
+
 TEST_F(OptionsFiles, RememberTheDirectoryOfASaveWhenTheDialogEndsWithOk)
 {
     Save(home.Path("mine.ini"));
