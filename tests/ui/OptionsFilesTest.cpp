@@ -1,4 +1,5 @@
 #include "tests/support/OptionsFixture.h"
+#include "tests/support/RecordedLog.h"
 
 #include <wx/log.h>
 
@@ -215,12 +216,10 @@ TEST_F(OptionsFiles, AreNotLoadedWhenTheyAreLongerThanAMegabyte)
     const auto load = [this](std::size_t bytes)
     {
         const std::string wanted = "Size=321\n#";
-        wxLogBuffer log;
-        wxLog* const before = wxLog::SetActiveTarget(&log);
+        const RecordedLog log;
         settings.size = 123;
         Load(home.Write("long.ini", wanted + std::string(bytes - wanted.size(), 'x')));
-        wxLog::SetActiveTarget(before);
-        return std::pair(settings.size, log.GetBuffer());
+        return std::pair(settings.size, log.Text());
     };
     EXPECT_EQ(load(1 << 20), std::pair(321L, wxString()));
     const auto [size, said] = load((1 << 20) + 1);
