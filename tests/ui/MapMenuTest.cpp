@@ -13,9 +13,12 @@ protected:
     /// What the read-out says of a place: latitude, longitude, locator.
     std::vector<wxString> ReadAt(wxPoint place)
     {
-        PointAt(place + wxPoint(1, 1));
-        PointAt(place);
-        EXPECT_TRUE(Await([this] { return Status(0).StartsWith("lat"); }));
+        for (const wxPoint at : {place + wxPoint(1, 1), place})
+        {
+            frame->SetStatusText("", 0);
+            PointAt(at);
+            EXPECT_TRUE(Await([this] { return Status(0).StartsWith("lat"); }));
+        }
         return {Status(0).Mid(6).BeforeFirst(' '), Status(0).AfterFirst('/').Mid(8).BeforeFirst(' '),
                 Status(0).AfterFirst('/').AfterFirst('/').Mid(1, 6)};
     }
