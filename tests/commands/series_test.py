@@ -151,6 +151,19 @@ class SeriesTest(command.CommandTest):
         process.wait()
         self.assertRaises(ProcessLookupError, os.killpg, int(left.read_text()), 0)
 
+    def test_ends_parallel_when_interrupted_while_it_is_started(self):
+        self.write("s.ini", "Size=100\n")
+        self.script("bin/parallel", '#!/bin/sh\n[ "$1" != --version ] || exec echo GNU parallel\n'
+                                    'kill -TERM $PPID\necho $$ >>left\nexec sleep 1000\n')
+        for _ in range(10):
+            process = self.start("--hours=0")
+            said = process.communicate(timeout=60)[1]
+            self.assertEqual(process.returncode, 2, said)
+            self.assertIn("kavmap-series: interrupted, 0 of 1 pictures are there", said)
+        left = self.home / "left"
+        for line in left.read_text().splitlines() if left.exists() else []:
+            self.assertRaises(ProcessLookupError, os.kill, int(line), 0)
+
     def test_names_a_failed_picture_and_draws_the_others(self):
         failing = self.script("failing", '#!/bin/sh\n[ $4 = 2026-06-15T01:00 ] && { echo "kavmap: no ink" >&2; exit 2; }\n'
                                          'printf picture >"$6"\n')
