@@ -14,11 +14,11 @@ inline void LetEventsHappen()
     }
 }
 
-/// Lets events happen until something has become true, ten seconds at most.
+/// Lets events happen until something has become true, a minute at most.
 template <class Condition>
 bool AwaitEvents(Condition condition)
 {
-    for (int i = 0; i < 500; ++i, wxMilliSleep(20))
+    for (int i = 0; i < 3000; ++i, wxMilliSleep(20))
     {
         LetEventsHappen();
         if (condition())

@@ -34,7 +34,7 @@ protected:
     /// Lets all pending events happen.
     static void Settle() { LetEventsHappen(); }
 
-    /// Lets events happen until something has become true, ten seconds at most.
+    /// Lets events happen until something has become true, a minute at most.
     template <class Condition>
     static bool Await(Condition condition)
     {

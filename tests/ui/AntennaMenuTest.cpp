@@ -14,6 +14,7 @@ protected:
     void SetUp() override
     {
         rotator = rotator::ParseAddress(rotctld.Address());
+        rotctld.state.min = 0; // asked for as soon as there is a connection
         MenuFixture::SetUp();
     }
 
@@ -52,7 +53,6 @@ TEST_F(ScreenAntennaMenu, TurnsAlongTheShortPath)
 
 TEST_F(ScreenAntennaMenu, TurnsAlongTheLongPath)
 {
-    rotctld.state.min = 0;
     Create();
     RightClick({120, 130}, L"Turn antenna to 326.3\u00b0 (long path)");
     EXPECT_TRUE(AwaitStatus("Antenna to 326.3 degs")) << Status(0);
