@@ -95,7 +95,8 @@ const char* ObstacleTo(const std::string& path)
 {
     if (access(path.c_str(), R_OK) != 0)
         return std::strerror(errno);
-    if (std::filesystem::is_directory(path))
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
         return "it is a directory";
     return ObstacleToSettings(path.c_str());
 }

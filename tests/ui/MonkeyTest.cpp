@@ -1,7 +1,6 @@
 #include "config/SettingKeys.h"
 #include "tests/support/HeapInUse.h"
 #include "tests/support/Processes.h"
-#include "tests/support/ScarceMemory.h"
 #include "tests/ui/MonkeyFixture.h"
 #include "tests/ui/MonkeyInOptions.h"
 #include "ui/options/KavMapOptions.h"
@@ -256,6 +255,5 @@ TEST_P(Monkey, LeavesTheWindowInOrder)
     Tell();
 }
 
-// Four seeds for the sanitizers; as built, one, for its invariants.
-INSTANTIATE_TEST_SUITE_P(Screen, Monkey, testing::Range(1, UnderAddressSanitizer() ? 5 : 2));
+INSTANTIATE_TEST_SUITE_P(Screen, Monkey, testing::Range(1, 5));
 } // namespace
