@@ -27,7 +27,7 @@ target_link_options(kav_hardening INTERFACE $<${kav_release}:-pie;LINKER:-z,relr
 add_library(kav_sanitizers INTERFACE)
 set(kav_sanitizer_options -fsanitize=address,undefined -fno-sanitize-recover=undefined)
 # With the sanitizers in between, g++ 12 sees uninitialised values in the standard library that are not there.
-target_compile_options(kav_sanitizers INTERFACE ${kav_sanitizer_options} -O1 -fno-omit-frame-pointer
+target_compile_options(kav_sanitizers INTERFACE ${kav_sanitizer_options} -O1 -g1 -fno-omit-frame-pointer
                                                 -Wno-maybe-uninitialized)
 target_link_options(kav_sanitizers INTERFACE ${kav_sanitizer_options})
 

@@ -1,48 +1,37 @@
-# kav_tests(NAME SOURCES file... USES library... [DEFINES definition...] [NEEDS target...] [PROGRAM target])
+# kav_tests(NAME SOURCES file... USES library... [DEFINES definition...] [NEEDS target...])
 #
 # The tests of one room as the program tests_NAME and, where the rooms are built with sanitizers as well, a second time as
-# sanitized/tests_NAME. What is tested is compiled for each of the two; the tests are compiled once, unless they start
-# PROGRAM, whose file they know as KAVMAP_PROGRAM.
+# sanitized/tests_NAME. What is tested is compiled for each of the two; the tests are compiled once.
 function(kav_tests name)
-  cmake_parse_arguments(tests "" "PROGRAM" "SOURCES;USES;DEFINES;NEEDS" ${ARGN})
+  cmake_parse_arguments(tests "" "" "SOURCES;USES;DEFINES;NEEDS" ${ARGN})
   set(objects tests_${name}_objects)
-  kav_test_objects(${objects} ${tests_PROGRAM})
-  kav_test_program(tests_${name} ${objects} bin ${name} ${tests_USES})
-  if(KAV_SANITIZE)
-    if(tests_PROGRAM)
-      set(objects tests_${name}_sanitized_objects)
-      kav_test_objects(${objects} ${tests_PROGRAM}_sanitized)
-    endif()
-    kav_sanitized(uses ${tests_USES})
-    kav_test_program(tests_${name}_sanitized ${objects} sanitized/bin sanitized ${uses})
-    kav_take_first(tests_${name}_sanitized ${uses})
-  endif()
-endfunction()
-
-# The sources of kav_tests(), compiled.
-macro(kav_test_objects objects)
   add_library(${objects} OBJECT ${tests_SOURCES})
   target_link_libraries(${objects} PRIVATE ${tests_USES} kav_options)
   target_compile_options(${objects} PRIVATE ${kav_test_options})
   target_compile_definitions(${objects} PRIVATE ${tests_DEFINES})
   kav_use_precompiled(${objects} kav_precompiled_tests ${tests_USES})
-  foreach(program ${ARGN})
-    target_compile_definitions(${objects} PRIVATE KAVMAP_PROGRAM="$<TARGET_FILE:${program}>")
-    add_dependencies(${objects} ${program})
-  endforeach()
-  if(tests_NEEDS)
-    add_dependencies(${objects} ${tests_NEEDS})
+
+  kav_test_program(tests_${name} bin ${name} USES ${tests_USES} NEEDS ${tests_NEEDS})
+  if(KAV_SANITIZE)
+    kav_sanitized(uses ${tests_USES})
+    kav_sanitized(needs ${tests_NEEDS})
+    kav_test_program(tests_${name}_sanitized sanitized/bin sanitized USES ${uses} NEEDS ${needs})
+    kav_take_first(tests_${name}_sanitized ${uses})
   endif()
-endmacro()
+endfunction()
 
 # A program of tests and what ctest shall run of it: a suite in one process, or, of those that type, point or look at the
 # screen and are named Screen..., each test in a process and on a display of its own, as a display has one keyboard focus
 # and one pointer.
-function(kav_test_program target objects place label)
+function(kav_test_program target place label)
+  cmake_parse_arguments(program "" "" "USES;NEEDS" ${ARGN})
   add_executable(${target} $<TARGET_OBJECTS:${objects}>)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME tests_${name} RUNTIME_OUTPUT_DIRECTORY
                                                                        ${PROJECT_BINARY_DIR}/${place})
-  target_link_libraries(${target} PRIVATE ${ARGN} kav_options)
+  target_link_libraries(${target} PRIVATE ${program_USES} kav_options)
+  if(program_NEEDS)
+    add_dependencies(${target} ${program_NEEDS})
+  endif()
   set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake)
   add_custom_command(
     TARGET ${target} POST_BUILD

@@ -15,6 +15,17 @@ enum class InstructionSet
     Avx512,
 };
 
+// What the functions of geo/RowKernel.cpp name as their targets, a bit each.
+inline constexpr unsigned kHasAvx2 = 1;
+inline constexpr unsigned kHasFma = 2;
+inline constexpr unsigned kHasAvx512F = 4;
+inline constexpr unsigned kHasAvx512Bw = 8;
+inline constexpr unsigned kHasAvx512Dq = 16;
+inline constexpr unsigned kHasAvx512Vl = 32;
+
+/// The fastest choice on a processor with these features.
+InstructionSet BestOf(unsigned features);
+
 /// The fastest choice on this processor.
 InstructionSet BestInstructionSet();
 } // namespace geo

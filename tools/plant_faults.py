@@ -21,7 +21,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ROOMS = ["geo", "config", "render", "propagation", "reports", "maker", "rotator", "ui", "app"]
-COPIED = [*ROOMS, "cmake", "commands", "data", "docs", "resources", "scripts", "tests", "tools", "CMakeLists.txt", "LICENSE"]
+COPIED = [place.name for place in ROOT.iterdir() if place.name not in ("build", ".git")]
 
 # Source text with comments and texts blanked out, so that no fault is planted in them.
 HIDDEN = re.compile(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|'(?:\\.|[^'\\\n])+'|^[ \t]*#(?:\\\n|[^\n])*|"
@@ -142,6 +142,7 @@ class Tree:
         self.place, self.room, self.own, self.build = place, room, own, place / "build"
         self.marker = place / "planted.txt"
         self.noticed_by = self.failed_once = ""
+        self.patience = 300  # seconds until a program of tests counts as hanging
         for name in COPIED:
             source = ROOT / name
             if source.is_dir():
@@ -173,13 +174,18 @@ class Tree:
         command = [self.build / "bin" / f"tests_{self.room}", f"--gtest_filter={test_filter}", "--gtest_fail_fast"]
         try:
             done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace",
-                                  timeout=300)
+                                  timeout=self.patience)
         except subprocess.TimeoutExpired as late:
             return (re.findall(r"^\[ RUN      \] (\S+)", (late.stdout or b"").decode(errors="replace"), re.M) or [""])[-1]
         if done.returncode == 0:
             return ""
         failed = re.findall(r"^\[  FAILED  \] (\w+(?:/\w+)*\.\w+(?:/\w+)*)", done.stdout, re.M)
         return (failed or re.findall(r"^\[ RUN      \] (\S+)", done.stdout, re.M)[-1:] or ["the start"])[0]
+
+    def learn_patience(self):
+        start = time.monotonic()
+        self.run_in_one_process("-Screen*")
+        self.patience = 20 + 5 * (time.monotonic() - start)
 
     def fails_quickly(self):
         failed = self.failed_once = self.run_in_one_process("-Screen*")
@@ -252,6 +258,7 @@ def main():
     tree = Tree(place, options.room, options.own)
     if not tree.compiles(*(tree.targets() if options.own else ["all"])) or tree.notices():
         sys.exit(f"The tests do not pass as they are: {tree.noticed_by or 'they do not build'}")
+    tree.learn_patience()
     unchanged = tree.program()
     noticed = planted = 0
     planter = Planter(place, options, rng)

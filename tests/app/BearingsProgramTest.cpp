@@ -95,7 +95,7 @@ TEST_F(BearingsProgramTest, NeedsNoHome)
 TEST_F(BearingsProgramTest, SaysThatNobodyCanReadThem)
 {
     home.Write("a.dat", "x;P;x;x;0;90;x\n");
-    EXPECT_EQ(Shell("timeout 100 " KAVMAP_PROGRAM " --bearings a.dat >/dev/full 2>err.txt"), 1);
+    EXPECT_EQ(Shell("timeout 100 $KAVMAP --bearings a.dat >/dev/full 2>err.txt"), 1);
     EXPECT_EQ(Err(), "kavmap: can't write the bearings: No space left on device\n");
 }
 
@@ -123,7 +123,7 @@ TEST_F(BearingsProgramTest, AnswersInputThatIsNoPlaceWithoutFillingMemory)
     std::filesystem::resize_file("huge", std::uintmax_t{1} << 30);
     // AddressSanitizer itself reserves more than any limit.
     const std::string limit = UnderAddressSanitizer() ? "" : "ulimit -v 2000000; ";
-    EXPECT_EQ(Shell(limit + "timeout 100 " KAVMAP_PROGRAM " -s /dev/null --bearings - <huge >out.txt 2>err.txt"), 1);
+    EXPECT_EQ(Shell(limit + "timeout 100 $KAVMAP -s /dev/null --bearings - <huge >out.txt 2>err.txt"), 1);
     EXPECT_EQ(Out(), std::string(kHeader) + ",,,,,,,,,\r\n");
 }
 
@@ -136,7 +136,7 @@ TEST_F(BearingsProgramTest, AnswersAtOnce)
     {
         dup2(open("questions", O_RDONLY), STDIN_FILENO);
         dup2(open("out.txt", O_WRONLY | O_CREAT | O_TRUNC, 0600), STDOUT_FILENO);
-        execl(KAVMAP_PROGRAM, "kavmap", "-s", "/dev/null", "--bearings", "-", nullptr);
+        execl(ProgramUnderTest(), "kavmap", "-s", "/dev/null", "--bearings", "-", nullptr);
         _exit(127);
     }
     const auto ask = [ready](const std::string& place)

@@ -91,7 +91,7 @@ TEST_F(CheckProgramTest, RefusesWhatIsNoSettingsFile)
 TEST_F(CheckProgramTest, SaysThatNobodyCanReadIt)
 {
     home.Write("a.ini", "Size=1\n");
-    EXPECT_EQ(Shell("timeout 100 " KAVMAP_PROGRAM " --check -s a.ini >/dev/full 2>err.txt"), 1);
+    EXPECT_EQ(Shell("timeout 100 $KAVMAP --check -s a.ini >/dev/full 2>err.txt"), 1);
     EXPECT_EQ(Err(), "kavmap: can't write the findings\n");
 }
 

@@ -17,7 +17,7 @@ protected:
     static int RunUntilBytes(int bytes, const std::string& arguments)
     {
         return Shell("exec 2>/dev/null; env --default-signal=XFSZ prlimit --core=0 --fsize=" + std::to_string(bytes) +
-                     " timeout --foreground 100 " KAVMAP_PROGRAM " " + arguments + " </dev/null");
+                     " timeout --foreground 100 $KAVMAP " + arguments + " </dev/null");
     }
 
     /// Settings of a small map, as a complete file.
@@ -56,9 +56,9 @@ TEST_F(FaultsOfDisksTest, LeaveThePictureThatWasThere)
     for (const std::string ending : kEndings)
     {
         const std::string picture = "full/map." + ending;
-        EXPECT_EQ(RunMounted("mount -t tmpfs -o size=16k tmpfs full",
-                             "echo precious >" + picture + "\n" KAVMAP_PROGRAM " -s own.ini -r " + picture +
-                                 "; echo $? >status.txt; ls full; cat full/*"),
+        EXPECT_EQ(RunMounted("mount -t tmpfs -o size=16k tmpfs full", "echo precious >" + picture +
+                                                                          "\n$KAVMAP -s own.ini -r " + picture +
+                                                                          "; echo $? >status.txt; ls full; cat full/*"),
                   0);
         EXPECT_EQ(home.Read("status.txt"), "1\n") << ending;
         EXPECT_EQ(Err(), "kavmap: Couldn't write the picture " + picture + ": No space left on device\n");
@@ -71,7 +71,7 @@ TEST_F(FaultsOfDisksTest, LeaveTheSettingsThatWereThere)
     home.Write("full/place", "");
     EXPECT_EQ(RunMounted("mount -t tmpfs -o size=8k tmpfs full",
                          "echo Size=123 >full/.Kavdex; head -c 4096 /dev/zero >full/filling\n"
-                         "HOME=$PWD/full " KAVMAP_PROGRAM " -r map.png; ls -A full; cat full/.Kavdex"),
+                         "HOME=$PWD/full $KAVMAP -r map.png; ls -A full; cat full/.Kavdex"),
               0);
     EXPECT_THAT(Err(), HasSubstr("No space left on device"));
     EXPECT_EQ(Out(), ".Kavdex\nfilling\nSize=123\n");
@@ -84,7 +84,7 @@ TEST_F(FaultsOfDisksTest, AreToldWhereTheHomeIsOnlyRead)
     const auto run = [this](const std::string& arguments)
     {
         return RunMounted("mount --bind fixed fixed && mount -o remount,bind,ro fixed",
-                          "HOME=$PWD/fixed exec " KAVMAP_PROGRAM " " + arguments);
+                          "HOME=$PWD/fixed exec $KAVMAP " + arguments);
     };
     EXPECT_EQ(run("-r map.png"), 0);
     EXPECT_THAT(Err(), HasSubstr("Read-only file system"));
@@ -108,7 +108,7 @@ TEST_F(FaultsTest, OfAnOutputThatTakesNothingAreTold)
         for (const char* output : {">/dev/full", ">&-"})
         {
             home.Write("input", "JP80\n");
-            EXPECT_EQ(Shell(std::string("timeout 100 " KAVMAP_PROGRAM " ") + arguments + " 2>err.txt " + output), 1)
+            EXPECT_EQ(Shell(std::string("timeout 100 $KAVMAP ") + arguments + " 2>err.txt " + output), 1)
                 << arguments << output;
             EXPECT_THAT(Err(), HasSubstr("kavmap: can't write the ")) << arguments << output;
         }
@@ -117,11 +117,10 @@ TEST_F(FaultsTest, OfAnOutputThatTakesNothingAreTold)
 TEST_F(FaultsTest, OfClosedStreamsAreNone)
 {
     home.Write("lacking.ini", "Size=120\n[Text]\nShow1=1\nFile1=gone.dat\n");
-    ASSERT_EQ(Shell("timeout 100 " KAVMAP_PROGRAM " -s lacking.ini -r open.bmp 2>err.txt"), 2);
+    ASSERT_EQ(Shell("timeout 100 $KAVMAP -s lacking.ini -r open.bmp 2>err.txt"), 2);
     for (const char* closed : {"<&-", ">&-", "2>&-", "<&- >&-", "<&- >&- 2>&-"})
     {
-        EXPECT_EQ(Shell("timeout 100 " KAVMAP_PROGRAM " -s lacking.ini -r map.bmp 2>err.txt " + std::string(closed)), 2)
-            << closed;
+        EXPECT_EQ(Shell("timeout 100 $KAVMAP -s lacking.ini -r map.bmp 2>err.txt " + std::string(closed)), 2) << closed;
         EXPECT_TRUE(home.Read("map.bmp") == home.Read("open.bmp")) << closed;
         home.Write("map.bmp", "");
     }
@@ -131,7 +130,7 @@ TEST_F(FaultsTest, OfClosedStreamsLetNothingBePrintedIntoFiles)
 {
     Shell("mkfifo input");
     // It answers the first line, and waits for another, while one looks where its streams lead.
-    EXPECT_EQ(Shell("exec 3<>input\n" KAVMAP_PROGRAM " --bearings - <input >answers 2>&- 3>&- &\n"
+    EXPECT_EQ(Shell("exec 3<>input\n$KAVMAP --bearings - <input >answers 2>&- 3>&- &\n"
                     "echo JP80 >&3\n"
                     "for i in $(seq 600); do grep -q JP80 answers && break; sleep 0.1; done\n"
                     "readlink /proc/$!/fd/2 >out.txt\n"
@@ -197,7 +196,7 @@ TEST_F(FaultsTest, OfSeveralProgramsOnOneSettingsFileAreNone)
     ASSERT_NE(whole, lacking);
 
     home.Write(".Kavdex", lacking);
-    EXPECT_EQ(Shell("for i in 1 2 3 4; do timeout 100 " KAVMAP_PROGRAM " -r $i.bmp 2>>err.txt & done\n"
+    EXPECT_EQ(Shell("for i in 1 2 3 4; do timeout 100 $KAVMAP -r $i.bmp 2>>err.txt & done\n"
                     "while kill -0 $! 2>/dev/null; do cat .Kavdex >seen; test -s seen || echo empty >>out.txt; done\n"
                     "wait"),
               0);

@@ -1,3 +1,4 @@
+#include "tests/support/ProgramUnderTest.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -122,7 +123,7 @@ public:
         if (m_process != 0)
             return;
         dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
-        execl(KAVMAP_PROGRAM, "kavmap", static_cast<char*>(nullptr));
+        execl(ProgramUnderTest(), "kavmap", static_cast<char*>(nullptr));
         _exit(127);
     }
     ~Program()

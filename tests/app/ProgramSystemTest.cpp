@@ -98,8 +98,8 @@ TEST_F(ProgramSystemTest, TakesMissingValuesFromTheSettingsOfTheSystem)
         GTEST_SKIP() << "here no program may have a system directory of its own";
     ASSERT_EQ(Shell("cp -r /etc etc 2>/dev/null; printf 'Size=135\\nZoom=7000\\n' >etc/Kavdex.conf"), 0);
     home.Write(".Kavdex", "Zoom=9000\n");
-    EXPECT_EQ(Shell("timeout 100 unshare -rm sh -c 'mount --bind etc /etc && exec " KAVMAP_PROGRAM
-                    " -r a.png' >out.txt 2>err.txt </dev/null"),
+    EXPECT_EQ(Shell("timeout 100 unshare -rm sh -c 'mount --bind etc /etc && exec $KAVMAP -r a.png' >out.txt 2>err.txt "
+                    "</dev/null"),
               0)
         << home.Read("err.txt");
     EXPECT_EQ(Picture("a.png").GetWidth(), 135);
@@ -154,9 +154,10 @@ TEST_F(ProgramSystemTest, LeavesAnOlderPictureAloneWhenTheDiscIsFull)
     home.Write("small.ini", "Size=120\n");
     home.Write("map.bmp", "precious");
     // No file may grow beyond one block.
-    EXPECT_EQ(Shell("bash -c 'trap \"\" XFSZ; ulimit -f 1; timeout 100 " KAVMAP_PROGRAM
-                    " -s small.ini -r map.bmp' 2>err.txt </dev/null"),
-              1);
+    EXPECT_EQ(
+        Shell(
+            "bash -c 'trap \"\" XFSZ; ulimit -f 1; timeout 100 $KAVMAP -s small.ini -r map.bmp' 2>err.txt </dev/null"),
+        1);
     EXPECT_THAT(Err(), testing::EndsWith("kavmap: Couldn't write the picture map.bmp: File too large\n"));
     EXPECT_EQ(home.Read("map.bmp"), "precious");
     EXPECT_EQ(CountFilesLike("map.bmp*"), 1u);
@@ -183,7 +184,7 @@ TEST_F(ProgramSystemTest, SaysThatHelpAndVersionDidNotFitTheDisc)
 {
     for (const char* option : {"--help", "--version"})
     {
-        EXPECT_EQ(Shell(std::string(KAVMAP_PROGRAM " ") + option + " 2>err.txt >/dev/full"), 1) << option;
+        EXPECT_EQ(Shell(std::string("$KAVMAP ") + option + " 2>err.txt >/dev/full"), 1) << option;
         EXPECT_EQ(Err(), "kavmap: can't write the answer: No space left on device\n");
     }
 }
@@ -198,7 +199,7 @@ TEST_F(ProgramSystemTest, LeavesNothingUnfinishedWhenASignalEndsIt)
         const pid_t program = fork();
         if (program == 0)
         {
-            execl(KAVMAP_PROGRAM, "kavmap", "-s", "large.ini", "-r", "map.png", static_cast<char*>(nullptr));
+            execl(ProgramUnderTest(), "kavmap", "-s", "large.ini", "-r", "map.png", static_cast<char*>(nullptr));
             _exit(127);
         }
         EXPECT_TRUE(AwaitQuietly([&] { return CountFilesLike("kavmap-unfinished-*") == 1; }));
@@ -235,8 +236,8 @@ TEST_F(ProgramSystemTest, SaysThatItHasTooLittleMemoryToStart)
     home.Write("small.ini", "Size=120\n");
     const auto run = [](int megabytes, const std::string& arguments)
     {
-        return Shell("ulimit -v $((" + std::to_string(megabytes) + " * 1024)); timeout 100 " KAVMAP_PROGRAM " " +
-                     arguments + " 2>err.txt </dev/null");
+        return Shell("ulimit -v $((" + std::to_string(megabytes) + " * 1024)); timeout 100 $KAVMAP " + arguments +
+                     " 2>err.txt </dev/null");
     };
     for (const int megabytes : {80, 100, 120})
     {
@@ -253,8 +254,8 @@ TEST_F(ProgramSystemTest, SaysThatItMayOpenTooFewFiles)
     home.Write("small.ini", "Size=120\n");
     const auto run = [](int files, const std::string& arguments)
     {
-        return Shell("exec 2>err.txt </dev/null; ulimit -n " + std::to_string(files) +
-                     "; exec timeout 100 " KAVMAP_PROGRAM " " + arguments);
+        return Shell("exec 2>err.txt </dev/null; ulimit -n " + std::to_string(files) + "; exec timeout 100 $KAVMAP " +
+                     arguments);
     };
     EXPECT_EQ(run(8, "-s small.ini -r a.png"), 1);
     EXPECT_EQ(Err(), "kavmap: too few files may be open to start: 6 are needed\n");

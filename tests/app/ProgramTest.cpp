@@ -116,10 +116,10 @@ TEST_F(ProgramTest, SaysWhenTheDiscIsFull)
 {
     home.Write("small.ini", "Size=120\n");
     // No file may grow beyond one block.
-    const int status = std::system(("cd " + home.Path("").utf8_string() +
-                                    " && bash -c 'trap \"\" XFSZ; ulimit -f 1; timeout 60 " KAVMAP_PROGRAM
-                                    " -s small.ini -r map.bmp' 2>err.txt")
-                                       .c_str());
+    const int status =
+        std::system(("cd " + home.Path("").utf8_string() +
+                     " && bash -c 'trap \"\" XFSZ; ulimit -f 1; timeout 60 $KAVMAP -s small.ini -r map.bmp' 2>err.txt")
+                        .c_str());
     EXPECT_EQ(WEXITSTATUS(status), 1);
     EXPECT_EQ(Err(), "kavmap: Couldn't write the picture map.bmp: File too large\n");
     wxArrayString files;
@@ -241,8 +241,7 @@ TEST_F(ProgramTest, GivesVoacaplNothingToReadWhateverItReadsItself)
     for (const char* redirections : {"</dev/zero", "<&-", "</dev/zero >&-"})
     {
         home.Write("input.txt", "");
-        const std::string command =
-            path + "timeout 100 " KAVMAP_PROGRAM " -s own.ini -r a.png " + redirections + " 2>err.txt";
+        const std::string command = path + "timeout 100 $KAVMAP -s own.ini -r a.png " + redirections + " 2>err.txt";
         EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 2) << redirections;
         EXPECT_EQ(home.Read("input.txt"), "/dev/null\n") << redirections;
         EXPECT_THAT(Err(), HasSubstr("Error calling VOACAP")) << redirections;

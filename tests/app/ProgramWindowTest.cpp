@@ -1,3 +1,4 @@
+#include "tests/support/ProgramUnderTest.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -91,7 +92,7 @@ private:
 class RunningProgram
 {
 public:
-    RunningProgram() : RunningProgram({KAVMAP_PROGRAM}) {}
+    RunningProgram() : RunningProgram({ProgramUnderTest()}) {}
     explicit RunningProgram(std::vector<const char*> command) : m_process(fork())
     {
         if (m_process != 0)

@@ -1,4 +1,5 @@
 #include "tests/support/FrameFixture.h"
+#include "tests/support/ProgramUnderTest.h"
 
 #include <cstdlib>
 
@@ -16,7 +17,7 @@ protected:
         dialogs.chosenPath = home.Path("window.png");
         ClickTool(ui::kIdSave);
         EXPECT_EQ(dialogs.Texts(), "");
-        ASSERT_EQ(std::system("env -u DISPLAY -u WAYLAND_DISPLAY " KAVMAP_PROGRAM " --render program.png"), 0);
+        ASSERT_EQ(std::system("env -u DISPLAY -u WAYLAND_DISPLAY $KAVMAP --render program.png"), 0);
         const std::string saved = home.Read("window.png");
         EXPECT_FALSE(saved.empty());
         EXPECT_TRUE(home.Read("program.png") == saved);

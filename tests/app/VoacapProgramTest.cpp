@@ -1,4 +1,5 @@
 #include "tests/support/Processes.h"
+#include "tests/support/ProgramUnderTest.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gmock/gmock.h>
@@ -41,7 +42,7 @@ protected:
         setenv("KAV_STAND_IN", behaviour.c_str(), 1);
         setenv("PATH", wholePath.c_str(), 1);
         dup2(open("err.txt", O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
-        execv(KAVMAP_PROGRAM, const_cast<char**>(arguments.data()));
+        execv(ProgramUnderTest(), const_cast<char**>(arguments.data()));
         _exit(127);
     }
 

@@ -14,17 +14,30 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace
 {
 /// What the disk does with a file when it is flushed; none: what it should.
 int (*theDisk)(int file) = nullptr;
+
+/// What the next attempts to write fail with, the last first; none: they do what they should.
+std::vector<int> theErrors;
 } // namespace
 
-/// Stands for that of the system in this program.
+/// These stand for those of the system in this program.
 extern "C" int fsync(int file)
 {
     return theDisk ? theDisk(file) : static_cast<int>(syscall(SYS_fsync, file));
+}
+
+extern "C" ssize_t write(int file, const void* bytes, std::size_t count)
+{
+    if (theErrors.empty())
+        return syscall(SYS_write, file, bytes, count);
+    errno = theErrors.back();
+    theErrors.pop_back();
+    return -1;
 }
 
 namespace
@@ -39,7 +52,11 @@ bool WriteNew(wxOutputStream& stream)
 class WholeFile : public testing::Test
 {
 protected:
-    ~WholeFile() override { theDisk = nullptr; }
+    ~WholeFile() override
+    {
+        theDisk = nullptr;
+        theErrors.clear();
+    }
 
     std::size_t CountFiles() const
     {
@@ -95,6 +112,23 @@ TEST_F(WholeFile, MayBeWrittenOutOfOrder)
     };
     EXPECT_EQ(WriteWholeFile(home.Path("a"), write), "");
     EXPECT_EQ(home.Read("a"), "1x34");
+}
+
+TEST_F(WholeFile, IsWrittenOnAfterAnInterruption)
+{
+    theErrors = {EINTR, EINTR};
+    EXPECT_EQ(Write("a"), "");
+    EXPECT_TRUE(theErrors.empty());
+    EXPECT_EQ(home.Read("a"), "new");
+}
+
+TEST_F(WholeFile, IsNotReplacedByOneThatDidNotFit)
+{
+    home.Write("a", "older");
+    theErrors = {ENOSPC};
+    EXPECT_EQ(Write("a"), "No space left on device");
+    EXPECT_EQ(home.Read("a"), "older");
+    EXPECT_EQ(CountFiles(), 1u);
 }
 
 TEST_F(WholeFile, IsNotReplacedByOneThatDidNotReachTheDisk)

@@ -487,6 +487,18 @@ TEST(GreylineShade, CountsBothEdgesToTheGreyzone)
     return {};
 }
 
+TEST(InstructionSet, NeedsEveryFeatureThatItsLoopsName)
+{
+    // All six, the two of the older vectors among them: without one of those neither has loops.
+    EXPECT_EQ(geo::BestOf(63), geo::InstructionSet::Avx512);
+    EXPECT_EQ(geo::BestOf(geo::kHasAvx2 | geo::kHasFma), geo::InstructionSet::Avx2);
+    for (const unsigned lacking : {geo::kHasAvx512F, geo::kHasAvx512Bw, geo::kHasAvx512Dq, geo::kHasAvx512Vl})
+        EXPECT_EQ(geo::BestOf(63 & ~lacking), geo::InstructionSet::Avx2) << lacking;
+    for (const unsigned lacking : {geo::kHasAvx2, geo::kHasFma})
+        EXPECT_EQ(geo::BestOf(63 & ~lacking), geo::InstructionSet::Baseline) << lacking;
+    EXPECT_EQ(geo::BestOf(0), geo::InstructionSet::Baseline);
+}
+
 #ifdef __x86_64__
 TEST(InstructionSet, IsTheBestThatTheSystemReports)
 {

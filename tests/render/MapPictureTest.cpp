@@ -153,4 +153,15 @@ TEST(ImagesOfPictures, HaveEveryPixel)
         }
     }
 }
+
+TEST(ImagesOfPictures, AreOblongWhereBitmapsAre)
+{
+    wxImage oblong(3, 5);
+    oblong.SetRGB(2, 0, 10, 20, 30);
+    oblong.SetRGB(0, 4, 40, 50, 60);
+    wxBitmap bitmap(oblong);
+    const wxImage image = render::ImageOf(bitmap);
+    ASSERT_EQ(image.GetSize(), wxSize(3, 5));
+    EXPECT_EQ(0, std::memcmp(image.GetData(), oblong.GetData(), 3 * 3 * 5));
+}
 } // namespace

@@ -1,3 +1,4 @@
+#include "tests/support/DefaultSignals.h"
 #include "tests/support/FailOnAssert.h"
 #include "tests/support/OwnDisplay.h"
 
@@ -5,6 +6,7 @@
 
 int main(int argc, char** argv)
 {
+    TakeDefaultSignals();
     TakeOwnDisplay(argv);
     testing::InitGoogleTest(&argc, argv);
     const wxInitializer toolkit;

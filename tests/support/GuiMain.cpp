@@ -1,3 +1,4 @@
+#include "tests/support/DefaultSignals.h"
 #include "tests/support/FailOnAssert.h"
 #include "tests/support/OwnDisplay.h"
 
@@ -37,6 +38,7 @@ wxIMPLEMENT_APP_NO_MAIN(TestApp);
 
 int main(int argc, char** argv)
 {
+    TakeDefaultSignals();
     TakeOwnDisplay(argv);
     testing::InitGoogleTest(&argc, argv);
     // Tests are listed while the program is built, where there is no display.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/ProgramUnderTest.h"
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
@@ -25,8 +26,7 @@ protected:
     static int Run(const std::string& arguments, const std::string& environment = "",
                    const std::string& input = "</dev/null")
     {
-        return Shell("timeout 100 env " + environment + " " KAVMAP_PROGRAM " " + arguments + " >out.txt 2>err.txt " +
-                     input);
+        return Shell("timeout 100 env " + environment + " $KAVMAP " + arguments + " >out.txt 2>err.txt " + input);
     }
     static int Shell(const std::string& command)
     {
