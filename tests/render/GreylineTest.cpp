@@ -230,6 +230,24 @@ TEST_F(GreylineTest, IsTheShadeOfEveryPixelUnderTheSun)
     }
 }
 
+TEST_F(GreylineTest, CutsTheSunOffAtTheEdges)
+{
+    settings.size = 100;
+    settings.zoom = 1000;
+    settings.centreLat = 0;
+    settings.centreLon = 20;
+    settings.compass.show = false;
+    const MapView view = View();
+    // Well within a pixel.
+    const auto inDegrees = [&](int pixels) { return (pixels + 0.3) * view.frame.metresPerPixel / 111195.0; };
+    for (int fromMiddle = 36; fromMiddle <= 64; ++fromMiddle)
+        for (const auto& [east, north] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}, {1, -1}})
+        {
+            SCOPED_TRACE(testing::Message() << fromMiddle << ": " << east << ", " << north);
+            ExpectTheLiteralDrawing({inDegrees(north * fromMiddle), 20 + inDegrees(east * fromMiddle)});
+        }
+}
+
 TEST_F(GreylineTest, HasNoSunBeyondTheMap)
 {
     settings.zoom = 1000;
