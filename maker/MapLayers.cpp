@@ -93,7 +93,7 @@ void MapMaker::DrawCompassText()
 
 void MapMaker::DrawBorderLines(const BorderSlot& slot)
 {
-    DrawLines("Plotting Lines...", slot, [&](wxDC& dc) { render::DrawBorderLines(dc, *m_view, slot.file); });
+    DrawLines("Plotting Lines...", slot, [&](wxDC& dc) { render::DrawBorderLines(dc, *m_view, slot.file, Asking()); });
 }
 
 void MapMaker::DrawRadials()
@@ -111,7 +111,7 @@ void MapMaker::DrawTextLabels(const TextSlot& slot)
         m_listener.OnError("Error opening file " + slot.file);
     else
         DrawLayer("Plotting Text...", ColourFromSetting(slot.colour), slot.alpha, 1,
-                  [&](wxDC& dc) { render::DrawTextLabels(dc, *m_view, *text, slot); });
+                  [&](wxDC& dc) { render::DrawTextLabels(dc, *m_view, *text, slot, Asking()); });
 }
 
 void MapMaker::DrawRangeCircles()
@@ -130,7 +130,13 @@ void MapMaker::DrawPlottedSquares(const PlotSquaresSlot& slot)
     if (text)
         DrawLayer(
             "Hatching Squares...", ColourFromSetting(slot.borderColour), slot.alpha, 1,
-            [&](wxDC& dc) { render::DrawPlottedSquares(dc, *m_view, *text, slot); }, render::Inks::Many);
+            [&](wxDC& dc) { render::DrawPlottedSquares(dc, *m_view, *text, slot, Asking()); }, render::Inks::Many);
+}
+
+render::GoOn MapMaker::Asking()
+{
+    constexpr unsigned kEvery = 64;
+    return [this, asked = 0U](double done) mutable { return ++asked % kEvery != 0 || m_listener.OnDrawing(done); };
 }
 
 bool MapMaker::HasMapOrError(const wxString& text)

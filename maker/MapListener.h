@@ -36,6 +36,10 @@ public:
     /// The last of the rows is done, and the picture with it.
     virtual void OnRowsDone() {}
 
+    /// Called again and again while a layer with a file of any length is drawn, with what is done of it, from 0 to 1.
+    /// False leaves out the rest of the layer, and whoever answers so tells the user.
+    virtual bool OnDrawing(double /*done*/) { return true; }
+
     /// The picture is another one than before.
     virtual void OnPictureChanged() {}
 

@@ -3,6 +3,7 @@
 #include "config/Settings.h"
 #include "maker/MapListener.h"
 #include "render/BaseMap.h"
+#include "render/GoOn.h"
 #include "render/GridLines.h"
 #include "render/Layer.h"
 #include "render/MapSurface.h"
@@ -92,6 +93,7 @@ private:
     void DrawTexts(const wxString& statusText, const TextStyle& style, const TextDrawing& draw);
     void DrawGrid(const LineStyle& style, const render::GridSpec& grid);
     bool HasMapOrError(const wxString& text);
+    render::GoOn Asking(); ///< asks the listener, but not for every single point
 
     wxString MakePropagation(const UtcTime& now); ///< returns what is not right about it; empty when all is well
     bool RememberHourAngle(std::int64_t degree);  ///< whether it differs from the one before

@@ -16,8 +16,10 @@ std::int16_t LittleEndian(unsigned char low, unsigned char high)
 
 BorderFile::BorderFile(const wxString& name)
 {
-    if (OpenDataFile(m_file, name))
-        ReadBlock();
+    if (!OpenDataFile(m_file, name))
+        return;
+    m_length = m_file.Length();
+    ReadBlock();
 }
 
 bool BorderFile::Next(BorderRecord& record)
@@ -29,6 +31,7 @@ bool BorderFile::Next(BorderRecord& record)
     const std::size_t count = std::min(kRecordSize, m_filled - m_next);
     std::copy_n(&m_block[m_next], count, m_record.begin());
     m_next += count;
+    m_done += count;
     record = {LittleEndian(m_record[0], m_record[1]), LittleEndian(m_record[2], m_record[3]),
               LittleEndian(m_record[4], m_record[5])};
     return true;

@@ -33,6 +33,9 @@ public:
     /// Reads the next point. @return false at the end of the file; then the record keeps its values.
     bool Next(BorderRecord& record);
 
+    /// How much of the file has been read, from 0 to 1.
+    double Done() const { return m_length > 0 ? static_cast<double>(m_done) / static_cast<double>(m_length) : 1.0; }
+
 private:
     static constexpr std::size_t kRecordSize = 6;
     using Bytes = std::array<unsigned char, kRecordSize>;
@@ -40,6 +43,8 @@ private:
     void ReadBlock();
 
     wxFile m_file;
+    wxFileOffset m_length = 0;
+    std::size_t m_done = 0;
     Bytes m_record{};
     std::array<unsigned char, kRecordSize * 10000> m_block;
     std::size_t m_next = 0;   ///< in the block

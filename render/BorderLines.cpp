@@ -4,12 +4,12 @@
 
 namespace render
 {
-void DrawBorderLines(wxDC& dc, const MapView& view, const wxString& file)
+void DrawBorderLines(wxDC& dc, const MapView& view, const wxString& file, const GoOn& goOn)
 {
     BorderFile points(file);
     BorderTracer tracer(view);
     ChainStroker segment(dc);
-    for (BorderRecord record{}; points.Next(record);)
+    for (BorderRecord record{}; goOn(points.Done()) && points.Next(record);)
         tracer.Add(record, segment);
 }
 } // namespace render

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/BorderFile.h"
+#include "render/GoOn.h"
 #include "render/MapView.h"
 #include "render/ThinnedPen.h"
 
@@ -44,5 +45,5 @@ private:
  *
  * @param[in] file see BorderFile. One that cannot be opened is reported by the toolkit's log and draws nothing.
  */
-void DrawBorderLines(wxDC& dc, const MapView& view, const wxString& file);
+void DrawBorderLines(wxDC& dc, const MapView& view, const wxString& file, const GoOn& goOn = Always);
 } // namespace render

@@ -70,11 +70,13 @@ std::optional<SquareOutline> OutlineOfSquare(const MapView& view, geo::LatLon so
     return outline;
 }
 
-void DrawPlottedSquares(wxDC& dc, const MapView& view, std::wstring_view text, const PlotSquaresSlot& style)
+void DrawPlottedSquares(wxDC& dc, const MapView& view, std::wstring_view text, const PlotSquaresSlot& style,
+                        const GoOn& goOn)
 {
     const Hatch hatch(style.stipple, ColourFromSetting(style.fillColour), ColourFromSetting(style.borderColour));
     // The end of a line is no part of a locator, so lines need not be told apart.
-    for (std::size_t i = 0; i + kNameLength <= text.size(); ++i)
+    const auto all = static_cast<double>(text.size());
+    for (std::size_t i = 0; i + kNameLength <= text.size() && goOn(static_cast<double>(i) / all); ++i)
         if (const auto square = SquareNamed(text.substr(i, kNameLength)))
             if (const auto outline = OutlineOfSquare(view, *square))
                 hatch.FillPolygon(dc, *outline);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/Locator.h"
+#include "render/GoOn.h"
 #include "render/MapView.h"
 
 #include <wx/dc.h>
@@ -32,5 +33,6 @@ std::optional<SquareOutline> OutlineOfSquare(const MapView& view, geo::LatLon so
  * @param[in] text  any text: wherever four characters of a line form a square, that square is drawn.
  * @param[in] style colours and hatching.
  */
-void DrawPlottedSquares(wxDC& dc, const MapView& view, std::wstring_view text, const PlotSquaresSlot& style);
+void DrawPlottedSquares(wxDC& dc, const MapView& view, std::wstring_view text, const PlotSquaresSlot& style,
+                        const GoOn& goOn = Always);
 } // namespace render

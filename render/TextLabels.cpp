@@ -72,13 +72,16 @@ std::optional<std::wstring> ReadLabelFile(const wxString& file)
     return ReadTextFile(file);
 }
 
-void DrawTextLabels(wxDC& dc, const MapView& view, std::wstring_view text, const TextSlot& style)
+void DrawTextLabels(wxDC& dc, const MapView& view, std::wstring_view text, const TextSlot& style, const GoOn& goOn)
 {
     LabelWriter writer(dc, view, style);
+    bool goesOn = true;
     ForEachLine(text,
                 [&](std::wstring_view line)
                 {
-                    if (const auto label = ParseTextLabel(line))
+                    const auto before = static_cast<double>(line.data() - text.data());
+                    goesOn = goesOn && goOn(before / static_cast<double>(text.size()));
+                    if (const auto label = goesOn ? ParseTextLabel(line) : std::nullopt)
                         writer.Write(*label);
                 });
 }

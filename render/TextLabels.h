@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geo/LatLon.h"
+#include "render/GoOn.h"
 #include "render/MapView.h"
 
 #include <wx/dc.h>
@@ -37,5 +38,6 @@ std::optional<std::wstring> ReadLabelFile(const wxString& file);
  * @param[in] text  of the file.
  * @param[in] style font, colour, alignment (outside 0..9: centred) and whether labels keep clear of each other.
  */
-void DrawTextLabels(wxDC& dc, const MapView& view, std::wstring_view text, const TextSlot& style);
+void DrawTextLabels(wxDC& dc, const MapView& view, std::wstring_view text, const TextSlot& style,
+                    const GoOn& goOn = Always);
 } // namespace render

@@ -12,8 +12,11 @@ namespace
 constexpr int kHeadLength = 12;
 constexpr int kHeadHalfWidth = 4;
 
-/// How far ink reaches from the middle of the line: the head, its outline and its smoothed edge.
-constexpr int kReach = kHeadHalfWidth + 4;
+/// How far ink reaches beyond a shape: its outline and its smoothed edge.
+constexpr int kOutline = 4;
+
+/// How far ink reaches from the middle of the line.
+constexpr int kReach = kHeadHalfWidth + kOutline;
 
 constexpr int kStep = 16; ///< pixels from one rectangle to the next
 
@@ -56,7 +59,7 @@ std::vector<wxRect> AntennaLine::Places() const
 {
     const wxPoint way = tip - station;
     const int count = std::max(std::abs(way.x), std::abs(way.y)) / kStep + 1;
-    std::vector<wxRect> places;
+    std::vector<wxRect> places{wxRect(tip, tip).Inflate(kHeadLength + kOutline)}; // a short line is all head
     for (int i = 0; i < count; ++i)
     {
         const auto at = [&](int n) { return station + wxPoint(way.x * n / count, way.y * n / count); };

@@ -8,6 +8,7 @@
 #include <wx/evtloop.h>
 #include <wx/msgdlg.h>
 
+#include <algorithm>
 #include <utility>
 
 // What the window does around the making of maps: it takes the centre from its field, shows what it is told, and
@@ -17,6 +18,9 @@ namespace
 {
 constexpr int kGreylinePeriodMs = 1000;
 constexpr int kPropagationPeriodMs = 60000;
+
+/// Often enough to stop a drawing without a delay.
+constexpr std::chrono::milliseconds kLookEvery(100);
 
 /// A run of voacapl takes some seconds at most.
 constexpr std::chrono::milliseconds kShortWait(3000);
@@ -109,6 +113,7 @@ void WxKavFrame::OnCreationBegun()
 
 void WxKavFrame::OnStep(const wxString& text)
 {
+    m_nextLook = std::chrono::steady_clock::now() + patience;
     SetStatusText(text, 0);
     if (onStep && !text.empty())
         onStep(text);
@@ -127,6 +132,28 @@ void WxKavFrame::OnRows(int done, int all)
                            wxPD_APP_MODAL | wxPD_AUTO_HIDE);
     else if (m_progress)
         m_progress->Update(done);
+}
+
+bool WxKavFrame::OnDrawing(double done)
+{
+    constexpr int kParts = 1000;
+    const auto now = std::chrono::steady_clock::now();
+    if (now < m_nextLook || !IsShown())
+        return true;
+    m_nextLook = now + std::min(patience, kLookEvery);
+    const wxString layer = m_statusBar->GetStatusText(0);
+    if (!m_drawing)
+        m_drawing.emplace("Kavdex", layer, kParts, this, wxPD_APP_MODAL | wxPD_CAN_ABORT | wxPD_REMAINING_TIME);
+    if (m_drawing->Update(std::min(static_cast<int>(done * kParts), kParts - 1)))
+        return true;
+    OnWarning(layer + " stopped: the map lacks the rest");
+    return false;
+}
+
+void WxKavFrame::OnPictureChanged()
+{
+    m_drawing.reset();
+    m_canvas->ShowPicture();
 }
 
 void WxKavFrame::OnWarning(const wxString& text)

@@ -9,6 +9,7 @@
 #include <wx/progdlg.h>
 #include <wx/timer.h>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -53,6 +54,9 @@ public:
     /// Told the text of every step of a creation; none by default.
     std::function<void(const wxString& step)> onStep;
 
+    /// For so long a layer is drawn before a dialog shows how far it is and offers to stop it.
+    std::chrono::milliseconds patience{1000};
+
     /// Enables or disables the tools for frequency and parameter and toggles those that are chosen; an index that is no
     /// tool's chooses none.
     void SetPropagationTools(bool enable, int frequencyIndex, int parameterIndex);
@@ -93,9 +97,10 @@ private:
     void OnWarning(const wxString& text) override;
     void OnRows(int done, int all) override;
     void OnRowsDone() override { m_progress.reset(); }
-    void OnPictureChanged() override { m_canvas->ShowPicture(); }
+    void OnPictureChanged() override;
     void OnGreylineShown() override;
     void OnPropagationBegun() override;
+    bool OnDrawing(double done) override;
     bool OnWaiting(std::chrono::milliseconds waited) override;
     void OnPropagationEnded() override;
 
@@ -111,7 +116,9 @@ private:
     void OnKey(wxKeyEvent& event);
 
     std::unique_ptr<Configuration> m_settings;
-    std::optional<wxProgressDialog> m_progress; ///< for as long as the base picture is drawn
+    std::optional<wxProgressDialog> m_progress;       ///< for as long as the base picture is drawn
+    std::optional<wxProgressDialog> m_drawing;        ///< for as long as a layer is drawn that takes long
+    std::chrono::steady_clock::time_point m_nextLook; ///< when the drawing of a layer is looked after
     Wait m_wait = Wait::None;
     UtcTime m_waitSince{};
     std::optional<ui::CommandsOff> m_commandsOff; ///< for as long as the propagation overlay is made

@@ -9,6 +9,8 @@
 
 #include <wx/utils.h>
 
+#include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -21,6 +23,12 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
 using testing::StartsWith;
+
+bool SamePicture(const wxImage& one, const wxImage& other)
+{
+    const auto bytes = static_cast<std::size_t>(3 * one.GetWidth() * one.GetHeight());
+    return one.GetSize() == other.GetSize() && std::memcmp(one.GetData(), other.GetData(), bytes) == 0;
+}
 
 /// Makes small maps and keeps what the listener is told, one line a call. No window is there.
 class MapMakerTest : public testing::Test, protected MapListener
@@ -50,6 +58,37 @@ protected:
     void OnPropagationBegun() override { told.emplace_back("propagation begun"); }
     void OnPropagationEnded() override { told.emplace_back("propagation ended"); }
     bool OnWaiting(std::chrono::milliseconds) override { return whileWaiting(); }
+    bool OnDrawing(double done) override
+    {
+        doneWhenAsked.push_back(done);
+        return goOnDrawing;
+    }
+
+    /// The map with a layer that is stopped as soon as it is asked about is the map with what came before.
+    void ExpectTheBeginning(wxString& file, const std::string& whole, std::size_t before)
+    {
+        file = home.Write("whole", whole);
+        goOnDrawing = true;
+        EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+        ASSERT_GT(doneWhenAsked.size(), 2u);
+        EXPECT_TRUE(std::ranges::is_sorted(doneWhenAsked));
+        EXPECT_NEAR(doneWhenAsked[0], static_cast<double>(before) / static_cast<double>(whole.size()), 0.01);
+        EXPECT_LE(doneWhenAsked.back(), 1.0);
+        const wxImage drawn = picture.mapBitmap->ConvertToImage();
+
+        goOnDrawing = false;
+        doneWhenAsked.clear();
+        told.clear();
+        EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+        EXPECT_EQ(doneWhenAsked.size(), 1u);
+        EXPECT_EQ(told.back(), "step Finished...");
+        const wxImage stopped = picture.mapBitmap->ConvertToImage();
+        file = home.Write("beginning", whole.substr(0, before));
+        EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
+        const wxImage beginning = picture.mapBitmap->ConvertToImage();
+        EXPECT_TRUE(SamePicture(stopped, beginning));
+        EXPECT_FALSE(SamePicture(stopped, drawn));
+    }
 
     /// Makes a map with the outside program's stand-in.
     void RunStandIn(const char* behaviour)
@@ -88,6 +127,8 @@ protected:
     MapMaker maker{settings, picture, *this};
     std::vector<std::string> told;
     int asked = 0;
+    bool goOnDrawing = true;
+    std::vector<double> doneWhenAsked;
     std::function<bool()> whileWaiting = [] { return true; };
 };
 
@@ -123,6 +164,35 @@ TEST_F(MapMakerTest, StopsAtABasePictureThatCannotBeLoaded)
     settings.sourceBitmaps[1] = {true, "gone.png"};
     EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Stopped);
     EXPECT_EQ(told.back(), "error Error creating bitmap in function OnCreateMap2");
+}
+
+TEST_F(MapMakerTest, StopsTheLinesOfAFileWhenTold)
+{
+    std::string points;
+    for (int i = 0; i < 300; ++i) // a line that wanders round the centre
+        for (const int number : {i > 0 ? 100 : 1000, 3300 + 10 * (i % 7), 800 + 10 * i})
+            points += {static_cast<char>(number & 255), static_cast<char>(number >> 8)};
+    settings.borders[0].show = true;
+    ExpectTheBeginning(settings.borders[0].file, points, 63 * 6);
+}
+
+TEST_F(MapMakerTest, StopsTheLabelsOfAFileWhenTold)
+{
+    std::string lines;
+    for (int i = 0; i < 300; ++i)
+        lines += "id;x;City;DK;" + std::to_string(100 + i % 70).substr(1) + ";" +
+                 std::to_string(100 + i % 50).substr(1) + "\n";
+    settings.texts[0].show = true;
+    ExpectTheBeginning(settings.texts[0].file, lines, lines.size() / 300 * 63);
+}
+
+TEST_F(MapMakerTest, StopsTheSquaresOfAFileWhenTold)
+{
+    std::string names;
+    for (int i = 0; i < 100; ++i)
+        names += std::string("JO") + static_cast<char>('0' + i / 10) + static_cast<char>('0' + i % 10) + " ";
+    settings.plotSquares[0].show = true;
+    ExpectTheBeginning(settings.plotSquares[0].file, names, 63);
 }
 
 TEST_F(MapMakerTest, TellsTheSunsPlaceAndThatTheGreylineIsShown)

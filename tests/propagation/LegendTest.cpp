@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace
 {
@@ -165,6 +166,33 @@ TEST_F(LegendTest, IsWrittenInWhiteOnDarkOverlaysAndInBlackOnLightOnes)
             for (int row = 0; row <= 10; ++row)
                 EXPECT_GT(Count(legend, {10, row * textHeight, labelWidth, textHeight}, c.text), 10) << row;
         }
+}
+
+TEST_F(LegendTest, CountsAsDarkWhatIsDarkerThanAGreyInTheMiddle)
+{
+    // Of 255: 0.299 of the red, 0.587 of the green, 0.114 of the blue.
+    for (const auto& [red, green, blue, text] : {std::tuple{255U, 90U, 0U, kBlack},
+                                                 {255U, 80U, 0U, render::kWhite},
+                                                 {0U, 218U, 0U, kBlack},
+                                                 {0U, 217U, 0U, render::kWhite},
+                                                 {0U, 200U, 90U, kBlack},
+                                                 {0U, 200U, 80U, render::kWhite}})
+    {
+        const Flat overlay(500, render::OpaquePixel(red, green, blue));
+        const Legend legend = DrawLegend(Parameter::Muf, scale, font, overlay);
+        EXPECT_GT(Count(legend, {10, 0, labelWidth, textHeight}, text), 10) << red << " " << green << " " << blue;
+    }
+}
+
+TEST_F(LegendTest, IsWrittenInBlackWhereTheOverlayHasNothing)
+{
+    const Legend legend = DrawLegend(Parameter::Muf, scale, font, Flat(500, kNothing));
+    for (int row = 0; row <= 10; ++row)
+    {
+        const wxRect place(10, row * textHeight, labelWidth, textHeight);
+        EXPECT_GT(Count(legend, place, kBlack), 10) << row;
+        EXPECT_EQ(Count(legend, place, render::kWhite), 0) << row;
+    }
 }
 
 TEST_F(LegendTest, IsCutOffWhereTheMapHasNoRoom)

@@ -99,6 +99,16 @@ TEST_F(OutsideProgramTest, PassesNoOpenFilesOn)
     close(file);
 }
 
+TEST_F(OutsideProgramTest, GoesOnForThoseWhoDoNotMind)
+{
+    class Listening : public propagation::Progress
+    {
+        void OnStep(const wxString&) override {}
+    };
+    Listening listening;
+    EXPECT_TRUE(listening.OnWaiting(std::chrono::hours(1)));
+}
+
 TEST_F(OutsideProgramTest, IsEndedWithItsWholeGroup)
 {
     std::chrono::milliseconds last(0);
@@ -148,6 +158,23 @@ TEST_F(OutsideProgramTest, LeavesTheSignalsAsTheyWere)
     sigset_t blocked;
     sigprocmask(SIG_BLOCK, nullptr, &blocked);
     EXPECT_EQ(sigismember(&blocked, SIGTERM), 0);
+}
+
+TEST_F(OutsideProgramTest, LeavesNoFilesOpen)
+{
+    const auto open = [] { return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}); };
+    const auto before = open();
+    EXPECT_EQ(Run("exit 0"), 0);
+    const char* const missing[] = {"/nowhere/at/all", nullptr};
+    Waiting waiting({});
+    EXPECT_EQ(OutsideProgram(missing).Wait(waiting), OutsideProgram::kNotStarted);
+    EXPECT_EQ(open(), before);
+}
+
+TEST_F(OutsideProgramTest, StartsWhateverWentWrongBefore)
+{
+    errno = EINTR; // nobody clears it where nothing goes wrong
+    EXPECT_EQ(Run("exit 0"), 0);
 }
 
 TEST_F(OutsideProgramTest, TakesSignalsAsAnyOtherProgram)

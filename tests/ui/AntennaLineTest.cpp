@@ -1,3 +1,5 @@
+#include "ui/AntennaLine.h"
+
 #include "render/Bitmaps.h"
 #include "tests/support/OnScreen.h"
 #include "tests/support/Rotctld.h"
@@ -94,6 +96,36 @@ protected:
     Colours picture; ///< without a line
     Colours seen;    ///< on the screen
 };
+
+TEST(AntennaLine, HasPlacesForAllThatIsDrawn)
+{
+    for (const int side : {100, 101, 150, 400})
+        for (int bearing = 0; bearing < 360; bearing += 15)
+            for (const std::int64_t radius : {200'000, 3'000'000, 20'000'000})
+            {
+                MapFrame frame(side, 20000000, 1);
+                frame.mapRadius = radius; // near ones are short
+                const ui::AntennaLine line(frame, bearing);
+                wxBitmap bitmap(side, side, 24);
+                {
+                    wxMemoryDC dc(bitmap);
+                    dc.SetBackground(*wxBLUE_BRUSH);
+                    dc.Clear();
+                    line.Draw(dc, *wxRED_PEN);
+                    dc.SetPen(*wxTRANSPARENT_PEN);
+                    dc.SetBrush(*wxBLUE_BRUSH);
+                    for (const wxRect& place : line.Places())
+                    {
+                        EXPECT_LE(std::max(place.width, place.height), 16 + 2 * 8 + 1);
+                        dc.DrawRectangle(place);
+                    }
+                }
+                const Colours left = ColoursOf(bitmap);
+                for (const auto& row : left)
+                    ASSERT_TRUE(std::ranges::all_of(row, [&](render::Argb colour) { return colour == left[0][0]; }))
+                        << side << ": " << bearing << ", " << radius;
+            }
+}
 
 TEST_F(ScreenAntennaLine, PointsWhereTheAntennaDoes)
 {

@@ -107,7 +107,11 @@ public:
         if (dialog && event.GetEventType() == wxEVT_SHOW)
         {
             if (dynamic_cast<wxShowEvent&>(event).IsShown())
+            {
                 shown = dialog;
+                if (onShown)
+                    onShown(*dialog);
+            }
             else
                 ++hidden;
         }
@@ -115,6 +119,7 @@ public:
     }
 
     wxGenericProgressDialog* shown = nullptr;
+    std::function<void(wxGenericProgressDialog&)> onShown;
     int hidden = 0;
 };
 
@@ -220,6 +225,67 @@ TEST_F(ScreenMapGrowthTest, TellsNothingWhereTheWindowIsNotShown)
     const Progress progress;
     ASSERT_TRUE(frame->CreateMap());
     EXPECT_FALSE(progress.shown);
+}
+
+/// A layer with more points than anyone wants to wait for, for a user without patience.
+class ScreenLongLayerTest : public ScreenMapGrowthTest
+{
+protected:
+    void SetUp() override
+    {
+        ScreenMapGrowthTest::SetUp();
+        settings->borders[0].show = true;
+        settings->borders[0].file = home.Write("long.pnt", "");
+        std::filesystem::resize_file(home.Path("long.pnt").utf8_string(), 60'000'000);
+        frame->patience = std::chrono::milliseconds(0);
+        progress.onShown = [this](wxGenericProgressDialog& dialog)
+        {
+            if (dialog.GetMessage() == "Plotting Lines...")
+                Look(dialog);
+        };
+    }
+
+    /// Looks at the dialog and presses its button.
+    void Look(wxGenericProgressDialog& dialog)
+    {
+        ++looks;
+        EXPECT_EQ(dialog.GetTitle(), "Kavdex");
+        EXPECT_EQ(dialog.GetParent(), frame);
+        EXPECT_EQ(dialog.GetRange(), 1000);
+        EXPECT_LT(dialog.GetValue(), 1000);
+        auto* const cancel = dialog.FindWindow(wxID_CANCEL);
+        ASSERT_TRUE(cancel);
+        wxCommandEvent click(wxEVT_BUTTON, wxID_CANCEL);
+        click.SetEventObject(cancel);
+        cancel->GetEventHandler()->ProcessEvent(click);
+    }
+
+    Progress progress;
+    int looks = 0;
+};
+
+TEST_F(ScreenLongLayerTest, IsStoppedByTheButtonOfItsDialog)
+{
+    RecordSteps();
+    ASSERT_TRUE(frame->CreateMap());
+    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(steps.back(), "Finished...");
+    EXPECT_EQ(Status(0), "Plotting Lines... stopped: the map lacks the rest");
+    EXPECT_TRUE(frame->IsThisEnabled());
+    EXPECT_TRUE(Tools().GetToolEnabled(ui::kIdCreate));
+
+    settings->borders[0].show = false;
+    ASSERT_TRUE(frame->CreateMap());
+    EXPECT_EQ(Status(0), "Finished...");
+}
+
+TEST_F(ScreenLongLayerTest, IsNotSpokenOfWhileItIsShort)
+{
+    std::filesystem::resize_file(home.Path("long.pnt").utf8_string(), 600'000);
+    frame->patience = std::chrono::hours(1);
+    ASSERT_TRUE(frame->CreateMap());
+    EXPECT_EQ(looks, 0);
+    EXPECT_EQ(Status(0), "Finished...");
 }
 
 TEST_F(ScreenMapGrowthTest, ShowsEachLayerAsSoonAsItIsDrawn)

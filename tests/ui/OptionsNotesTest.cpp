@@ -109,8 +109,15 @@ TEST_F(OptionsNotesTest, MarkANumberThatWillBeDroppedOrChanged)
     EXPECT_EQ(SaidOf(page.size, "9 00"), Mark("no whole number"));
     EXPECT_EQ(SaidOf(page.size, "99"), Mark("100 to 8000"));
     EXPECT_EQ(SaidOf(page.size, "100"), "");
-    EXPECT_EQ(SaidOf(page.zoom, "20001"), Mark("100 to 20000"));
-    EXPECT_EQ(SaidOf(page.zoom, "20000"), "");
+    EXPECT_EQ(SaidOf(page.size, "8000"), "");
+    EXPECT_EQ(SaidOf(page.size, "8001"), Mark("100 to 8000"));
+    for (wxTextCtrl* const kilometres : {page.zoom, page.rangeEvery})
+    {
+        EXPECT_EQ(SaidOf(kilometres, "99"), Mark("100 to 20000"));
+        EXPECT_EQ(SaidOf(kilometres, "100"), "");
+        EXPECT_EQ(SaidOf(kilometres, "20000"), "");
+        EXPECT_EQ(SaidOf(kilometres, "20001"), Mark("100 to 20000"));
+    }
     EXPECT_EQ(SaidOf(dialog->m_homePage.latitude.decimal, "5-5"), Mark("no number"));
     EXPECT_EQ(SaidOf(dialog->m_homePage.latitude.decimal, "55"), "");
 }
