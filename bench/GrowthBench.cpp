@@ -44,13 +44,13 @@ MapView WholeWorld(int side)
 }
 
 template <class Draw>
-void DrawLayer(benchmark::State& state, int side, Draw draw)
+void DrawLayer(benchmark::State& state, int side, Draw draw, int lineWidth = 1)
 {
     const MapView view = WholeWorld(side);
     render::Layer layer(side);
     for (auto _ : state)
     {
-        draw(layer.Begin(*wxBLACK, 1), view);
+        draw(layer.Begin(*wxBLACK, lineWidth), view);
         layer.TakeMarks(255);
     }
     state.SetComplexityN(state.range(0));
@@ -107,6 +107,26 @@ void Labels(benchmark::State& state, bool keepClear)
 }
 BENCHMARK_CAPTURE(Labels, keeping_clear, true)->RangeMultiplier(8)->Range(400, 204800)->Complexity(benchmark::oN);
 BENCHMARK_CAPTURE(Labels, all, false)->RangeMultiplier(8)->Range(400, 25600)->Complexity(benchmark::oN);
+
+/// A hundred labels; the argument is the size of their font in points.
+void TallFonts(benchmark::State& state)
+{
+    const std::wstring text = render::DecodeText(RandomLabels(100));
+    TextSlot style;
+    style.font = wxString::Format("Sans %d", static_cast<int>(state.range(0)));
+    DrawLayer(state, 900, [&](wxDC& dc, const MapView& view) { render::DrawTextLabels(dc, view, text, style); });
+}
+BENCHMARK(TallFonts)->RangeMultiplier(4)->Range(10, 10240)->Complexity();
+
+/// A thousand lines across the map; the argument is the width of the pen in pixels.
+void WidePens(benchmark::State& state)
+{
+    const Input file(RandomPoints(1000));
+    DrawLayer(
+        state, 900, [&](wxDC& dc, const MapView& view) { render::DrawBorderLines(dc, view, file.Name()); },
+        static_cast<int>(state.range(0)));
+}
+BENCHMARK(WidePens)->RangeMultiplier(4)->Range(1, 4096)->Complexity();
 
 void Points(benchmark::State& state, int side)
 {
