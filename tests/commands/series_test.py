@@ -128,6 +128,14 @@ class SeriesTest(command.CommandTest):
         self.assertEqual(len(self.pictures()), 7)
         self.assertEqual(len((self.home / "ran").read_text().splitlines()), 7)
 
+    def test_leaves_nothing_that_parallel_leaves(self):
+        self.write("s.ini", "Size=100\n")
+        self.script("bin/parallel", '#!/bin/sh\nplace=$TMPDIR\n'
+                                    'for option; do case $option in --tmpdir=*) place=${option#*=} ;; esac; done\n'
+                                    'touch "$place/par_left.par" "$HOME/was here"\nexec /usr/bin/parallel "$@"\n')
+        self.series("--hours=0", PATH=f"{self.home / 'bin'}:{self.environment['PATH']}")
+        self.assertTrue((self.home / "was here").exists())
+
     def test_leaves_nothing_when_interrupted_while_it_makes_or_removes_its_directory(self):
         self.write("s.ini", "Size=100\n")
         self.script("bin/mktemp", '#!/bin/sh\nmade=$(/usr/bin/mktemp "$@"); echo "$made" >>began\nsleep 0.3; echo "$made"\n')
