@@ -130,11 +130,13 @@ class SeriesTest(command.CommandTest):
 
     def test_leaves_nothing_that_parallel_leaves(self):
         self.write("s.ini", "Size=100\n")
-        self.script("bin/parallel", '#!/bin/sh\nplace=$TMPDIR\n'
-                                    'for option; do case $option in --tmpdir=*) place=${option#*=} ;; esac; done\n'
-                                    'touch "$place/par_left.par" "$HOME/was here"\nexec /usr/bin/parallel "$@"\n')
+        # parallel calls itself for other ends, too.
+        self.script("bin/parallel", '#!/bin/sh\nplace=$TMPDIR\nours=\nfor option; do case $option in '
+                                    '--tmpdir=*) place=${option#*=} ;; --termseq=*) ours=yes ;; esac; done\n'
+                                    '[ -z "$ours" ] || touch "$place/par_left.par" "$HOME/called"\n'
+                                    'exec /usr/bin/parallel "$@"\n')
         self.series("--hours=0", PATH=f"{self.home / 'bin'}:{self.environment['PATH']}")
-        self.assertTrue((self.home / "was here").exists())
+        self.assertTrue((self.home / "called").exists())
 
     def test_leaves_nothing_when_interrupted_while_it_makes_or_removes_its_directory(self):
         self.write("s.ini", "Size=100\n")
