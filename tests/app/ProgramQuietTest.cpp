@@ -1,3 +1,4 @@
+#include "tests/support/Processes.h"
 #include "tests/support/ProgramUnderTest.h"
 #include "tests/support/TemporaryHome.h"
 
@@ -23,16 +24,6 @@
 
 namespace
 {
-/// Waits for something to become true, half a minute at most.
-template <class Condition>
-bool Await(Condition condition)
-{
-    for (int i = 0; i < 2400; ++i, wxMilliSleep(50))
-        if (condition())
-            return true;
-    return false;
-}
-
 /// A keyboard on the display of the tests, and what it sees there.
 class Keyboard
 {
@@ -112,8 +103,6 @@ private:
     std::unique_ptr<Display, decltype(&XCloseDisplay)> m_display;
 };
 
-const char kTitle[] = "Kavmap V3.1.9 Linux QQ0QQQ";
-
 /// The program, and what it writes to standard error.
 class Program
 {
@@ -157,15 +146,15 @@ TEST(ScreenProgramQuiet, SaysNothingToTheTerminalFromStartToEnd)
     std::string title;
     Window window = None;
     const auto isMain = [&] { return (window = keyboard.FocusedWindow(title)) != None && title == kTitle; };
-    ASSERT_TRUE(Await(isMain));
+    ASSERT_TRUE(AwaitQuietly(isMain));
 
     keyboard.Press(XK_Return); // in the locator field: creates
-    ASSERT_TRUE(Await([&] { return isMain() && keyboard.ShowsAMap(window); }));
+    ASSERT_TRUE(AwaitQuietly([&] { return isMain() && keyboard.ShowsAMap(window); }));
 
     ASSERT_TRUE(std::filesystem::remove(home.WorkingFile().utf8_string())); // it was completed at the start
     // Menu and dialog come a little later than the keys that ask for them, and may not listen at once.
     int polls = 0;
-    ASSERT_TRUE(Await(
+    ASSERT_TRUE(AwaitQuietly(
         [&]
         {
             if (isMain() && polls++ % 20 == 0)
@@ -177,10 +166,10 @@ TEST(ScreenProgramQuiet, SaysNothingToTheTerminalFromStartToEnd)
                 keyboard.Press(XK_Return); // OK, which writes the settings
             return home.Read(".Kavdex").find("Zoom=20000") != std::string::npos;
         }));
-    ASSERT_TRUE(Await(isMain));
+    ASSERT_TRUE(AwaitQuietly(isMain));
 
     polls = 0;
-    EXPECT_TRUE(Await(
+    EXPECT_TRUE(AwaitQuietly(
         [&]
         {
             if (!program.HasEnded() && polls++ % 20 == 0)

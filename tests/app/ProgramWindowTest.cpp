@@ -1,3 +1,4 @@
+#include "tests/support/Processes.h"
 #include "tests/support/ProgramUnderTest.h"
 #include "tests/support/TemporaryHome.h"
 
@@ -22,8 +23,6 @@
 
 namespace
 {
-const char kTitle[] = "Kavmap V3.1.9 Linux QQ0QQQ";
-
 /// What the display knows of the windows on it.
 class Screen
 {
@@ -143,16 +142,6 @@ private:
     bool m_hasEnded = false;
 };
 
-/// Waits for something to become true, half a minute at most.
-template <class Condition>
-bool Await(Condition condition)
-{
-    for (int i = 0; i < 600; ++i, wxMilliSleep(50))
-        if (condition())
-            return true;
-    return false;
-}
-
 TEST(ScreenProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
 {
     const TemporaryHome home;
@@ -160,14 +149,14 @@ TEST(ScreenProgramWindow, ComesUpWithTitleAndIconAndEndsWhenItIsClosed)
     ASSERT_TRUE(screen.IsOk());
     RunningProgram program;
     Window window = None;
-    ASSERT_TRUE(Await([&] { return (window = screen.Find(kTitle)) != None || program.HasEnded(); }));
+    ASSERT_TRUE(AwaitQuietly([&] { return (window = screen.Find(kTitle)) != None || program.HasEnded(); }));
     ASSERT_NE(window, None);
-    EXPECT_TRUE(Await([&] { return screen.HasIcon(window); }));
+    EXPECT_TRUE(AwaitQuietly([&] { return screen.HasIcon(window); }));
     EXPECT_FALSE(program.HasEnded());
     EXPECT_EQ(program.FilesThatAre("/dev/null"), std::set<int>{STDIN_FILENO});
 
     screen.Close(window);
-    EXPECT_TRUE(Await([&] { return program.HasEnded(); }));
+    EXPECT_TRUE(AwaitQuietly([&] { return program.HasEnded(); }));
     EXPECT_TRUE(program.HasSucceeded());
     EXPECT_NE(home.Read(".Kavdex").find("Zoom=20000\n"), std::string::npos);
 }
@@ -179,7 +168,7 @@ public:
     LosableDisplay() : m_server({"sh", "-c", "exec Xvfb -displayfd 3 -noreset -nolisten tcp 3>number >server.txt 2>&1"})
     {
         std::ifstream number;
-        Await([&] { return (number.open("number"), number >> m_name) || (number.close(), false); });
+        AwaitQuietly([&] { return (number.open("number"), number >> m_name) || (number.close(), false); });
         m_name = ":" + m_name;
         wxGetEnv("DISPLAY", &m_nameBefore);
         wxSetEnv("DISPLAY", m_name);
@@ -207,11 +196,11 @@ TEST(ProgramWindow, EndsWithItsDisplayAndLeavesNothingBehind)
     home.Write(".Kavdex", "Size=123\n");
     LosableDisplay display;
     RunningProgram program;
-    ASSERT_TRUE(Await([&] { return display.Shows(kTitle) || program.HasEnded(); }));
+    ASSERT_TRUE(AwaitQuietly([&] { return display.Shows(kTitle) || program.HasEnded(); }));
     ASSERT_FALSE(program.HasEnded());
 
     display.Lose();
-    EXPECT_TRUE(Await([&] { return program.HasEnded(); }));
+    EXPECT_TRUE(AwaitQuietly([&] { return program.HasEnded(); }));
     EXPECT_TRUE(program.HasExited());
     EXPECT_FALSE(program.HasSucceeded());
     std::set<std::string> left;

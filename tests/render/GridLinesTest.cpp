@@ -1,17 +1,10 @@
 #include "render/GridLines.h"
 
+#include "tests/render/Segment.h"
 #include "tests/support/Stencil.h"
 
 namespace
 {
-struct Segment
-{
-    geo::Pixel from;
-    geo::Pixel to;
-
-    bool operator==(const Segment&) const = default;
-};
-
 class GridLinesTest : public LayerFixture
 {
 protected:

@@ -1,19 +1,12 @@
 #include "render/ChainStroker.h"
 #include "render/ThinnedPen.h"
+#include "tests/render/Segment.h"
 #include "tests/support/LayerFixture.h"
 
 #include <random>
 
 namespace
 {
-struct Segment
-{
-    geo::Pixel from;
-    geo::Pixel to;
-
-    bool operator==(const Segment&) const = default;
-};
-
 using Segments = std::vector<Segment>;
 
 Segments TraceWith(int smallestStep, const std::vector<geo::Pixel>& points)

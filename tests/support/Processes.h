@@ -31,11 +31,11 @@ inline bool IsRunning(pid_t process)
     return state != 'X' && state != 'Z';
 }
 
-/// Waits for something to become true, half a minute at most.
+/// Waits for something to become true, two minutes at most.
 template <class Condition>
 bool AwaitQuietly(Condition condition)
 {
-    for (int i = 0; i < 600; ++i, std::this_thread::sleep_for(std::chrono::milliseconds(50)))
+    for (int i = 0; i < 2400; ++i, std::this_thread::sleep_for(std::chrono::milliseconds(50)))
         if (condition())
             return true;
     return false;

@@ -5,7 +5,7 @@
 
 namespace
 {
-constexpr char kKinds[] = "pnt files (*.pnt)|*.pnt|All files(*.*)|*.*";
+constexpr char kBorderFiles[] = "pnt files (*.pnt)|*.pnt|All files(*.*)|*.*";
 } // namespace
 
 namespace ui
@@ -22,7 +22,7 @@ BordersPage::BordersPage(wxBookCtrlBase* book, Editing& editing)
         const wxString name = wxString::Format("Borders %zu", i + 1);
         const LineRow lines = rows[i].lines = NewLineRow(page, slot, name);
         AddCells(grid, {lines.show, lines.colour, lines.alpha, lines.lineWidth});
-        rows[i].file = page.File(slot.file, kKinds, {.name = name + ": File to plot", .note = NoBorderFile});
+        rows[i].file = page.File(slot.file, kBorderFiles, {.name = name + ": File to plot", .note = NoBorderFile});
         grid->Add(rows[i].file, wxSizerFlags().Expand());
     }
     page.Finish(grid);

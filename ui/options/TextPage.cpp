@@ -8,7 +8,7 @@ namespace
 {
 using namespace ui;
 
-constexpr char kKinds[] = "dat files (*.dat)|*.dat|All files (*.*)|*.*";
+constexpr char kLabelFiles[] = "dat files (*.dat)|*.dat|All files (*.*)|*.*";
 
 void AddRow(const Form& form, wxSizer* grid, TextPage::Row& row, TextSlot& slot, const wxString& name)
 {
@@ -17,7 +17,7 @@ void AddRow(const Form& form, wxSizer* grid, TextPage::Row& row, TextSlot& slot,
     row.text.alpha = form.Alpha(slot.alpha, name + ": Text Alpha");
     row.text.font = form.Font(slot.font, name + ": Font");
     AddCells(grid, {row.text.show, row.text.colour, row.text.alpha, row.text.font});
-    row.file = form.File(slot.file, kKinds, {.name = name + ": File to plot", .note = NoLabelFile}, wxFLP_SMALL);
+    row.file = form.File(slot.file, kLabelFiles, {.name = name + ": File to plot", .note = NoLabelFile}, wxFLP_SMALL);
     grid->Add(row.file, 0, wxEXPAND | wxALIGN_CENTRE_VERTICAL);
     row.align = form.Choice(slot.align, config::LabelsOf(render::kLabelStyles), {.name = name + ": Alignment"});
     row.avoidCollisions = form.Check(slot.avoidCollisions, "Collision\ndetect", {.name = name + ": Collision detect"});
