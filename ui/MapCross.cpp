@@ -6,7 +6,7 @@ namespace
 {
 constexpr int kStep = 10;
 constexpr int kArm = 9;
-constexpr int kGap = 2; ///< what stands under the cross stays visible
+constexpr int kOpenMiddle = 2; ///< what stands under the cross stays visible
 
 std::optional<wxPoint> DirectionOf(int key)
 {
@@ -56,6 +56,6 @@ void MapCross::Draw(wxDC& dc) const
     {
         dc.SetPen(pen);
         for (const wxPoint& arm : {wxPoint(1, 0), wxPoint(-1, 0), wxPoint(0, 1), wxPoint(0, -1)})
-            dc.DrawLine(*m_place + arm * kGap, *m_place + arm * kArm);
+            dc.DrawLine(*m_place + arm * kOpenMiddle, *m_place + arm * kArm);
     }
 }
