@@ -72,7 +72,7 @@ protected:
         EXPECT_EQ(maker.MakeMap(), MapMaker::Creation::Finished);
         ASSERT_GT(doneWhenAsked.size(), 2u);
         EXPECT_TRUE(std::ranges::is_sorted(doneWhenAsked));
-        EXPECT_NEAR(doneWhenAsked[0], static_cast<double>(before) / static_cast<double>(whole.size()), 0.01);
+        EXPECT_NEAR(doneWhenAsked[0], static_cast<double>(before) / static_cast<double>(whole.size()), 1e-9);
         EXPECT_LE(doneWhenAsked.back(), 1.0);
         const wxImage drawn = picture.mapBitmap->ConvertToImage();
 
